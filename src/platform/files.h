@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+enum class ReadStatus {
+    Ok,
+    Missing,    ///< there is nothing at the path
+    Unreadable, ///< something is there, but it is no regular file, too large, or cannot be read
+};
+
+/// Reads the whole regular file at `path` into `bytes`. Never waits: a named pipe or a device is
+/// Unreadable, and so is a file of more than `most` bytes.
+ReadStatus readFile(const std::string &path, std::size_t most, std::string &bytes);
+
+/// Replaces the file at `path` in one step, so that a reader sees the old bytes or the new ones,
+/// also after a power cut: a temporary file beside it, made exclusively, flushed to the disk, is
+/// renamed over it, and the folder is flushed. Keeps the old file's permissions; a new file gets
+/// 0644. On failure false: the old file stands as it was and no temporary file is left.
+bool writeFileAtomically(const std::string &path, std::string_view bytes);
+
+/// Moves what is at `path` to `path` + `suffix`, or to that with ".2", ".3", ... added while the
+/// name is taken. The new path; nothing when it cannot be moved.
+std::optional<std::string> moveAside(const std::string &path, const std::string &suffix);

@@ -1,0 +1,37 @@
+#include "platform/numbers.h"
+
+#include <algorithm>
+
+namespace {
+
+std::string_view withoutLeadingBlanks(std::string_view text)
+{
+    const auto first = text.find_first_not_of(" \t\r\n\v\f");
+    return first == text.npos ? std::string_view() : text.substr(first);
+}
+
+std::int32_t digits(std::string_view text)
+{
+    std::int64_t value = 0;
+    for (const char c : text) {
+        if (c < '0' || c > '9')
+            break;
+        value = std::min<std::int64_t>(value * 10 + (c - '0'), INT32_MAX);
+    }
+    return static_cast<std::int32_t>(value);
+}
+
+} // namespace
+
+std::int32_t leadingNumber(std::string_view text)
+{
+    return digits(withoutLeadingBlanks(text));
+}
+
+std::int32_t leadingInteger(std::string_view text)
+{
+    const auto rest = withoutLeadingBlanks(text);
+    if (rest.starts_with('-'))
+        return -digits(rest.substr(1));
+    return digits(rest.starts_with('+') ? rest.substr(1) : rest);
+}

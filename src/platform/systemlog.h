@@ -1,0 +1,11 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+/// Writes one line to the platform's system log and to standard error. The format is printf's.
+/// Any thread.
+[[gnu::format(printf, 1, 2)]] void systemLog(const char *format, ...);
+
+/// Takes the log lines in place of the system log, until it is called with an empty function.
+void setSystemLogSink(std::function<void(const std::string &line)> sink);
