@@ -1,0 +1,75 @@
+#include "model/fixedtext.h"
+
+#include <QtCore/QByteArrayView>
+#include <QtCore/QString>
+
+#include <algorithm>
+#include <string>
+
+namespace {
+
+constexpr char kReplacement[] = "\xEF\xBF\xBD";
+
+bool isForbiddenControl(char c)
+{
+    const auto byte = static_cast<unsigned char>(c);
+    return byte < 0x20 && c != '\t' && c != '\n' && c != '\r';
+}
+
+/// U+FFFE and U+FFFF, which no XML file may hold either.
+std::size_t findNonCharacter(std::string_view text)
+{
+    return std::min(text.find("\xEF\xBF\xBE"), text.find("\xEF\xBF\xBF"));
+}
+
+bool isStorable(std::string_view text)
+{
+    return QByteArrayView(text.data(), static_cast<qsizetype>(text.size())).isValidUtf8() &&
+           std::ranges::none_of(text, isForbiddenControl) && findNonCharacter(text) == text.npos;
+}
+
+std::string repaired(std::string_view text)
+{
+    const auto size = static_cast<qsizetype>(text.size());
+    std::string utf8 = QString::fromUtf8(text.data(), size).toStdString();
+    for (std::size_t at = findNonCharacter(utf8); at != utf8.npos; at = findNonCharacter(utf8))
+        utf8.replace(at, 3, kReplacement);
+    std::string result;
+    for (const char c : utf8)
+        isForbiddenControl(c) ? result.append(kReplacement) : result.append(1, c);
+    return result;
+}
+
+std::string_view cut(std::string_view text, std::size_t most)
+{
+    if (text.size() <= most)
+        return text;
+    const auto isContinuation = [](char c) { return (static_cast<unsigned char>(c) >> 6U) == 2; };
+    while (most > 0 && isContinuation(text[most]))
+        --most;
+    return text.substr(0, most);
+}
+
+void copyInto(std::span<char> field, std::string_view text)
+{
+    const auto fitting = cut(text, field.size() - 1);
+    const auto end = std::copy(fitting.begin(), fitting.end(), field.begin());
+    std::fill(end, field.end(), '\0');
+}
+
+} // namespace
+
+void SetText(std::span<char> field, std::string_view text)
+{
+    text = text.substr(0, text.find('\0'));
+    if (isStorable(text))
+        copyInto(field, text);
+    else
+        copyInto(field, repaired(text));
+}
+
+std::string_view GetText(std::span<const char> field)
+{
+    const auto end = std::find(field.begin(), field.end(), '\0');
+    return {field.data(), static_cast<std::size_t>(end - field.begin())};
+}
