@@ -13,11 +13,11 @@ inline constexpr char kSettingChange[] = "Kt7R4SettingChange";
 inline constexpr char kTypeKey[] = "Kt7R4SettingChangeType";
 
 enum class RequestType : std::int32_t {
-    TakeSettings = 0,         ///< the settings file has just been rewritten
-    SetPollingRate = 2,       ///< kPollingRateKey: 1 = 1000 Hz, 2 = 500 Hz, 3 = 250 Hz
-    ReportFirmware = 9,       ///< answered with kFirmwareReport
-    ReportLiftDistance = 11,  ///< answered with kLiftDistanceReport
-    SetLiftDistance = 12,     ///< kSetLiftDistanceKey: 0 = lowest, 1 = lower, 2 = default
+    TakeSettings = 0,        ///< the settings file has just been rewritten
+    SetPollingRate = 2,      ///< kPollingRateKey: 1 = 1000 Hz, 2 = 500 Hz, 3 = 250 Hz
+    ReportFirmware = 9,      ///< answered with kFirmwareReport
+    ReportLiftDistance = 11, ///< answered with kLiftDistanceReport
+    SetLiftDistance = 12,    ///< kSetLiftDistanceKey: 0 = lowest, 1 = lower, 2 = default
 };
 
 inline constexpr char kPollingRateKey[] = "PollingRate";

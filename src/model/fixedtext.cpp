@@ -45,7 +45,9 @@ std::string_view cut(std::string_view text, std::size_t most)
     if (text.size() <= most)
         return text;
     const auto isContinuation = [](char c) { return (static_cast<unsigned char>(c) >> 6U) == 2; };
-    while (most > 0 && isContinuation(text[most]))
+    constexpr std::size_t mostContinuations = 3;
+    const std::size_t least = most - std::min(most, mostContinuations);
+    while (most > least && isContinuation(text[most]))
         --most;
     return text.substr(0, most);
 }
@@ -61,6 +63,10 @@ void copyInto(std::span<char> field, std::string_view text)
 
 void SetText(std::span<char> field, std::string_view text)
 {
+    // A hostile file's text may be megabytes long. What shows in the field comes from the bytes
+    // that would fill it, a byte order mark (dropped by the repair) and one more character.
+    constexpr std::size_t more = 8;
+    text = cut(text, field.size() + more);
     text = text.substr(0, text.find('\0'));
     if (isStorable(text))
         copyInto(field, text);

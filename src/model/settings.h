@@ -69,7 +69,7 @@ struct ProfileInfo
 
 struct ConfigData
 {
-    std::uint32_t PROFILE_ID; ///< the current profile, 0-based; see CurrentProfile()
+    std::uint32_t PROFILE_ID;   ///< the current profile, 0-based; see CurrentProfile()
     std::uint32_t POLLING_RATE; ///< 1 = 1000 Hz, 2 = 500 Hz, 3 = 250 Hz
     std::uint32_t MACRODEL_CONFIRM;
     std::uint32_t GAME_MODE; ///< 0 or 1

@@ -5,20 +5,21 @@ namespace {
 template <std::uint32_t... Values>
 constexpr std::uint32_t kValues[] = {Values...};
 
-// On purpose not the same: a first start gives plain buttons, "Restore Defaults" the factory layout.
+// On purpose not the same: a first start gives plain buttons, "Restore Defaults" the factory
+// layout.
 constexpr std::uint32_t kFirstStartButtons[kButtonCount] = {1, 2, 9, 9, 9, 9, 9,
                                                             9, 9, 9, 9, 9, 9, 9};
-constexpr std::uint32_t kFactoryButtons[kButtonCount] = {
-    0x0001, 0x0002, 0x0006, 0x4010, 0x5007, 0x5011, 0x4001,
-    0x0005, 0x0004, 0x4003, 0x400F, 0x4014, 0x5014, 0x4005};
+constexpr std::uint32_t kFactoryButtons[kButtonCount] = {0x0001, 0x0002, 0x0006, 0x4010, 0x5007,
+                                                         0x5011, 0x4001, 0x0005, 0x0004, 0x4003,
+                                                         0x400F, 0x4014, 0x5014, 0x4005};
 
 // offsetof wants the struct and the member by name, and the key is the member's name: a macro says
 // it once.
 #define INTEGER(record, member) #member, FieldKind::Integer, offsetof(record, member), 1, 0
 #define TEXT(record, member)                                                                       \
-    #member, FieldKind::Text, offsetof(record, member), 1, sizeof(record::member), nullptr, nullptr
+#member, FieldKind::Text, offsetof(record, member), 1, sizeof(record::member), nullptr, nullptr
 #define EVENTS(kind, record, member)                                                               \
-    #member, FieldKind::kind, offsetof(record, member), 1,                                         \
+#member, FieldKind::kind, offsetof(record, member), 1,                                         \
         sizeof(record::member) / sizeof(KeymapEvent), nullptr, nullptr
 
 constexpr Field kRootFields[] = {

@@ -16,7 +16,7 @@ enum class FieldKind : std::uint8_t {
 
 struct Field
 {
-    const char *key;  ///< the key; "%d" stands for the 1-based number of a repeated field
+    const char *key; ///< the key; "%d" stands for the 1-based number of a repeated field
     FieldKind kind;
     std::size_t offset; ///< of the (first) field in its struct
     unsigned count;     ///< Integer: how many follow each other

@@ -4,6 +4,8 @@
 #include "platform/files.h"
 #include "platform/systemlog.h"
 
+#include <filesystem>
+
 std::string pConfigFileName;
 
 namespace {
@@ -20,18 +22,31 @@ void xmlconfig::setConfigfileName(const std::string &path)
 
 void xmlconfig::LoadConfigFile()
 {
+    if (ReadConfigFile() == ConfigRead::Ok)
+        return;
+    if (bUnreadableFile)
+        systemLog("%s cannot be read, starting with defaults", pConfigFileName.c_str());
+    InitialConfigData();
+}
+
+ConfigRead xmlconfig::ReadConfigFile()
+{
     std::string bytes;
     const ReadStatus status = readFile(pConfigFileName, kMostFileBytes, bytes);
-    const auto document =
-        status == ReadStatus::Ok ? plist::Document::parse(bytes) : std::nullopt;
-    bUnreadableFile = !document && status != ReadStatus::Missing;
-    if (!document) {
-        if (bUnreadableFile)
-            systemLog("%s cannot be read, starting with defaults", pConfigFileName.c_str());
-        InitialConfigData();
-        return;
-    }
-    pConfig = document->root();
+    bUnreadableFile = status == ReadStatus::Unreadable;
+    if (status != ReadStatus::Ok)
+        return bUnreadableFile ? ConfigRead::Unreadable : ConfigRead::Missing;
+    const auto document = plist::Document::parse(bytes);
+    bUnreadableFile = !document;
+    if (!document)
+        return ConfigRead::NotPropertyList;
+    readDocument(document->root());
+    return ConfigRead::Ok;
+}
+
+void xmlconfig::readDocument(plist::Dictionary root)
+{
+    pConfig = root;
     readFields(rootFields(), pConfig, &m_Config);
     for (std::uint32_t index = 0; index < kProfileCount; ++index) {
         pProfile[index] = pConfig.dictionary(numberedKey(kProfileKey, index + 1).c_str());
@@ -80,7 +95,9 @@ void xmlconfig::buildProfile(std::uint32_t index)
 
 bool xmlconfig::keepUnreadableFile()
 {
-    if (!bUnreadableFile)
+    // It may be gone since: then there is nothing to keep.
+    if (!bUnreadableFile ||
+        !std::filesystem::exists(std::filesystem::symlink_status(pConfigFileName)))
         return true;
     const auto kept = moveAside(pConfigFileName, ".unreadable");
     if (!kept)

@@ -11,6 +11,14 @@
 /// The path of the settings file, as given to xmlconfig::setConfigfileName().
 extern std::string pConfigFileName;
 
+/// What became of reading the settings file.
+enum class ConfigRead {
+    Ok,
+    Missing,         ///< there is no file
+    Unreadable,      ///< something is there, but it is no regular file or cannot be read
+    NotPropertyList, ///< a file, but not a property list with a dictionary at its root
+};
+
 /// The settings store: copies m_Config to and from the settings file, an XML property list that the
 /// driver process reads too. User-interface thread only.
 class xmlconfig
@@ -22,6 +30,10 @@ public:
     /// Reads the file into m_Config, or puts the first-start defaults when it cannot be read; then
     /// nothing is written. Missing keys read as 0, the empty text and the empty list.
     void LoadConfigFile();
+
+    /// As LoadConfigFile(), but when the file cannot be read m_Config stays as it is, nothing is
+    /// logged, and the result says why.
+    ConfigRead ReadConfigFile();
 
     /// Writes the whole of m_Config to the file in one step. On failure logs "write fail!"; the
     /// record is unchanged. A file that LoadConfigFile() found but could not read is first moved
@@ -37,6 +49,7 @@ public:
     void InitialProfile(std::uint32_t index);
 
 private:
+    void readDocument(plist::Dictionary root);
     void readProfile(std::uint32_t index);
     void buildProfile(std::uint32_t index);
     bool keepUnreadableFile();

@@ -81,8 +81,8 @@ void flushFolderOf(const std::string &path)
 bool fillTemporary(int number, std::string_view bytes, mode_t permissions)
 {
     Descriptor descriptor(number);
-    return writeAll(number, bytes) && ::fchmod(number, permissions) == 0 &&
-           ::fsync(number) == 0 && descriptor.close();
+    return writeAll(number, bytes) && ::fchmod(number, permissions) == 0 && ::fsync(number) == 0 &&
+           descriptor.close();
 }
 
 bool isTaken(const std::string &path)

@@ -9,6 +9,7 @@ namespace {
 const QString kPath = QStringLiteral("/org/kt7r4/DistributedNotificationCenter");
 const QString kInterface = QStringLiteral("org.kt7r4.DistributedNotificationCenter");
 const QString kSignal = QStringLiteral("Notification");
+const QString kSignature = QStringLiteral("ssa{sv}");
 
 } // namespace
 
@@ -34,6 +35,17 @@ void DBusNotificationCenter::post(const QString &name, const QString &object,
     QDBusMessage message = QDBusMessage::createSignal(kPath, kInterface, kSignal);
     message << name << object << userInfo;
     m_bus.send(message);
+    waitUntilSent();
+}
+
+/// The bus library hands messages over to a thread of its own, which writes them to the socket: the
+/// program could end before that. That thread does things in order, and taking back an observer is
+/// one that the library waits for; taking back one that was never added does nothing else, and
+/// sends nothing.
+void DBusNotificationCenter::waitUntilSent()
+{
+    m_bus.disconnect(QString(), kPath, kInterface, kSignal, {}, kSignature, &m_nobody,
+                     SLOT(receive(QString, QString, QVariantMap)));
 }
 
 void DBusNotificationCenter::addObserver(const QString &name, const QString &object,
@@ -42,8 +54,7 @@ void DBusNotificationCenter::addObserver(const QString &name, const QString &obj
     auto observer = std::make_unique<DBusObserver>(std::move(handler));
     // The bus itself compares name and object, so that nothing else wakes the process; the
     // signature keeps out messages of another shape.
-    m_bus.connect(QString(), kPath, kInterface, kSignal, {name, object},
-                  QStringLiteral("ssa{sv}"), observer.get(),
+    m_bus.connect(QString(), kPath, kInterface, kSignal, {name, object}, kSignature, observer.get(),
                   SLOT(receive(QString, QString, QVariantMap)));
     m_observers.push_back(std::move(observer));
 }

@@ -33,6 +33,9 @@ public:
     void addObserver(const QString &name, const QString &object, Handler handler) override;
 
 private:
+    void waitUntilSent();
+
     QDBusConnection m_bus;
+    DBusObserver m_nobody{[](const QVariantMap &) {}};
     std::vector<std::unique_ptr<DBusObserver>> m_observers;
 };

@@ -1,72 +1,21 @@
 #include "platform/plist.h"
 
-#include <plist/plist.h>
+#include "platform/plistbounds.h"
 
-#include <algorithm>
+#include <plist/plist.h>
 
 namespace plist {
 
 namespace {
 
-constexpr std::size_t kMostContainers = 2000;
-constexpr std::string_view kBinaryMagic = "bplist00";
-
-std::size_t countXmlContainers(std::string_view bytes)
-{
-    std::size_t count = 0;
-    for (auto at = bytes.find('<'); at != bytes.npos; at = bytes.find('<', at + 1)) {
-        const auto tag = bytes.substr(at + 1, 5);
-        if (tag.starts_with("dict") || tag == "array")
-            ++count;
-    }
-    return count;
-}
-
-std::uint64_t bigEndian(std::string_view bytes)
-{
-    std::uint64_t value = 0;
-    for (const char byte : bytes)
-        value = value << 8U | static_cast<unsigned char>(byte);
-    return value;
-}
-
-/// The binary form ends in a 32-byte trailer that tells where each object begins; an object's first
-/// byte tells its type in the high half (0xA array, 0xC set, 0xD dictionary). Offsets that lead
-/// outside are left for the parser to refuse.
-std::size_t countBinaryContainers(std::string_view bytes)
-{
-    constexpr std::size_t trailerSize = 32;
-    if (bytes.size() < kBinaryMagic.size() + trailerSize)
-        return 0;
-    const auto trailer = bytes.substr(bytes.size() - trailerSize);
-    const std::uint64_t offsetSize = bigEndian(trailer.substr(6, 1));
-    const std::uint64_t objects = bigEndian(trailer.substr(8, 8));
-    const std::uint64_t table = bigEndian(trailer.substr(24, 8));
-    if (offsetSize == 0 || offsetSize > 8 || table > bytes.size())
-        return 0;
-    const std::uint64_t fitting = (bytes.size() - table) / offsetSize;
-    std::size_t count = 0;
-    for (std::uint64_t i = 0; i < std::min(objects, fitting); ++i) {
-        const std::uint64_t offset = bigEndian(bytes.substr(table + i * offsetSize, offsetSize));
-        if (offset >= bytes.size())
-            continue;
-        const unsigned type = static_cast<unsigned char>(bytes[offset]) >> 4U;
-        if (type == 0xA || type == 0xC || type == 0xD)
-            ++count;
-    }
-    return count;
-}
-
 plist_t parseNode(std::string_view bytes)
 {
     plist_t node = nullptr;
     const auto size = static_cast<std::uint32_t>(bytes.size());
-    if (bytes.starts_with(kBinaryMagic)) {
-        if (countBinaryContainers(bytes) <= kMostContainers)
-            plist_from_bin(bytes.data(), size, &node);
-    } else if (countXmlContainers(bytes) <= kMostContainers) {
+    if (!isBinary(bytes) && isXmlWithinBounds(bytes))
         plist_from_xml(bytes.data(), size, &node);
-    }
+    else if (isBinary(bytes) && isBinaryWithinBounds(bytes))
+        plist_from_bin(bytes.data(), size, &node);
     return node;
 }
 

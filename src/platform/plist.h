@@ -47,8 +47,7 @@ public:
     Document();
 
     /// Reads `bytes`. Nothing when they are no property list, when the root is no dictionary, or
-    /// when they hold more than 2000 dictionaries and arrays: the settings need 1021, and the
-    /// parser's recursion must stay bounded whatever a file holds.
+    /// when they are out of the bounds of plistbounds.h.
     static std::optional<Document> parse(std::string_view bytes);
 
     Dictionary root() const { return Dictionary(m_root.get()); }

@@ -13,6 +13,12 @@ std::function<void(const std::string &)> &sink()
     return instance;
 }
 
+std::string &prefix()
+{
+    static std::string instance;
+    return instance;
+}
+
 std::string formatted(const char *format, va_list arguments)
 {
     va_list again;
@@ -37,10 +43,15 @@ void systemLog(const char *format, ...)
         return;
     }
     ::syslog(LOG_USER | LOG_INFO, "%s", line.c_str());
-    std::fprintf(stderr, "%s\n", line.c_str());
+    std::fprintf(stderr, "%s%s\n", prefix().c_str(), line.c_str());
 }
 
 void setSystemLogSink(std::function<void(const std::string &line)> newSink)
 {
     sink() = std::move(newSink);
+}
+
+void setSystemLogName(const std::string &name)
+{
+    prefix() = name + ": ";
 }

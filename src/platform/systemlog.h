@@ -9,3 +9,7 @@
 
 /// Takes the log lines in place of the system log, until it is called with an empty function.
 void setSystemLogSink(std::function<void(const std::string &line)> sink);
+
+/// Puts "name: " before every line on standard error, for a program whose lines scripts read; the
+/// system log names the program by itself. Call it once, before any other thread logs.
+void setSystemLogName(const std::string &name);

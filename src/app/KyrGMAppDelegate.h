@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QtCore/QPointer>
+
+class custumwindow;
+
+/// The application's delegate. It refers to the main window and does not own it.
+class KyrGMAppDelegate
+{
+public:
+    custumwindow *window() const;
+    void setWindow(custumwindow *window);
+
+    /// Nothing: all start-up work is done by the views as they wake up.
+    void applicationDidFinishLaunching() {}
+
+private:
+    QPointer<custumwindow> m_window;
+};

@@ -1,0 +1,184 @@
+#include "controls/hoverbutton.h"
+
+#include "platform/numbers.h"
+
+#include <QtCore/QMimeData>
+#include <QtGui/QContextMenuEvent>
+#include <QtGui/QHelpEvent>
+#include <QtWidgets/QToolTip>
+
+namespace {
+
+constexpr int kCaptionSize = 10;
+constexpr int kCaptionMargin = 4;
+constexpr float kDisabledCaption = 0.55F;
+
+UpRect captionRect(UpRect bounds)
+{
+    return {kCaptionMargin, 0, bounds.width - 2 * kCaptionMargin, bounds.height};
+}
+
+} // namespace
+
+HoverButton::HoverButton(QWidget *parent, UpRect frame) : ViewOf(parent)
+{
+    setFrame(frame);
+    setAcceptDrops(true);
+    // Clicks leave the keyboard where it is; the tab key reaches every button.
+    setFocusPolicy(Qt::TabFocus);
+    // A press on a button, also on a disabled one, is never a press on the window behind it.
+    setAttribute(Qt::WA_NoMousePropagation);
+    connect(this, &QAbstractButton::clicked, this, [this] { m_action.send(this); });
+}
+
+void HoverButton::setNormalImage(const SkinImage &image)
+{
+    NormalImage = image;
+    showFace(NormalImage);
+}
+
+void HoverButton::setHoverImage(const SkinImage &image)
+{
+    HoverImage = image;
+}
+
+void HoverButton::setAlternateImage(const SkinImage &image)
+{
+    AlternateImage = image;
+    update();
+}
+
+void HoverButton::setDisableImage(const SkinImage &image)
+{
+    DisableImage = image;
+}
+
+void HoverButton::setCaptionText(const QString &text)
+{
+    m_caption = text;
+    setAccessibleDescription(text);
+    update();
+}
+
+void HoverButton::setAction(const Action<HoverButton *> &action)
+{
+    m_action = action;
+}
+
+void HoverButton::setRightAction(const Action<HoverButton *> &action)
+{
+    if (!m_bEnableDisable)
+        RightAction = action;
+}
+
+void HoverButton::enableDragDrop(const Action<HoverButton *> &action)
+{
+    bCanDragDrop = true;
+    GetDragAction = action;
+}
+
+void HoverButton::setDisable(bool disable)
+{
+    m_bEnableDisable = disable;
+    setEnabled(!disable);
+    if (!disable)
+        showFace(NormalImage);
+    else if (!DisableImage.isNull())
+        showFace(DisableImage);
+}
+
+void HoverButton::drawRect(Canvas &canvas)
+{
+    const bool showsDisabled = m_bEnableDisable && !DisableImage.isNull();
+    const bool pressed = isPressedOrOn() && !showsDisabled;
+    canvas.drawImage(pressed && !AlternateImage.isNull() ? AlternateImage : m_shown);
+    QColor colour = pressed ? kWhite : kGold;
+    if (m_bEnableDisable)
+        colour.setAlphaF(kDisabledCaption);
+    canvas.drawLine(m_caption, captionRect(canvas.bounds()), colour, TextAlign::Centre,
+                    kCaptionSize);
+    if (hasFocus())
+        canvas.outline({1, 1, width() - 2, height() - 2}, kWhite);
+}
+
+void HoverButton::rightMouseDown(const ViewMouseEvent &event)
+{
+    const QPointer<HoverButton> alive(this);
+    if (!m_bEnableDisable)
+        RightAction.send(this);
+    if (alive)
+        ViewOf::rightMouseDown(event);
+}
+
+void HoverButton::contextMenuEvent(QContextMenuEvent *event)
+{
+    // By mouse the press has done it already.
+    if (event->reason() == QContextMenuEvent::Keyboard && !m_bEnableDisable)
+        RightAction.send(this);
+}
+
+void HoverButton::enterEvent(QEnterEvent *event)
+{
+    ViewOf::enterEvent(event);
+    showHover();
+}
+
+void HoverButton::leaveEvent(QEvent *event)
+{
+    ViewOf::leaveEvent(event);
+    showNormal();
+}
+
+void HoverButton::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (m_bEnableDisable || !bCanDragDrop || event->source() == this ||
+        !event->mimeData()->hasText())
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    showHover();
+}
+
+void HoverButton::dragLeaveEvent(QDragLeaveEvent * /*event*/)
+{
+    showNormal();
+}
+
+void HoverButton::dropEvent(QDropEvent *event)
+{
+    m_DropIndex = leadingInteger(event->mimeData()->text().toStdString());
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    showNormal();
+    GetDragAction.send(this);
+}
+
+bool HoverButton::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return ViewOf::event(event);
+    // A caption that had to be cut is shown whole.
+    const int space = captionRect({0, 0, width(), height()}).width;
+    const bool cut = QFontMetrics(systemFont(kCaptionSize)).horizontalAdvance(m_caption) > space;
+    const QString plain = cut ? m_caption.toHtmlEscaped() : toolTip();
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plain, this);
+    return true;
+}
+
+void HoverButton::showFace(const SkinImage &image)
+{
+    m_shown = image;
+    update();
+}
+
+void HoverButton::showHover()
+{
+    if (!m_bEnableDisable)
+        showFace(HoverImage.isNull() ? NormalImage : HoverImage);
+}
+
+void HoverButton::showNormal()
+{
+    if (!m_bEnableDisable)
+        showFace(NormalImage);
+}

@@ -1,0 +1,194 @@
+#include "controls/pnglistbox.h"
+
+#include "platform/systemlog.h"
+
+#include <QtCore/QMimeData>
+#include <QtGui/QDrag>
+#include <QtWidgets/QApplication>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kTextSize = 11;
+constexpr int kTextInset = 3; ///< the text stands in the row's strip shortened by this
+constexpr qreal kDragOpacity = 0.5;
+
+QColor colourOf(double red, double green, double blue)
+{
+    const auto component = [](double value) {
+        return static_cast<float>(std::clamp(value / 255.0, 0.0, 1.0));
+    };
+    return QColor::fromRgbF(component(red), component(green), component(blue));
+}
+
+} // namespace
+
+pngListBox::pngListBox(QWidget *parent, UpRect frame) : View(parent)
+{
+    setFrame(frame);
+    setFocusPolicy(Qt::StrongFocus);
+    setAcceptDrops(true);
+}
+
+int pngListBox::AddString(const QString &text)
+{
+    pListArray.append(text);
+    update();
+    return getCount();
+}
+
+void pngListBox::setcursel(int row)
+{
+    _currentpos = row;
+    update();
+}
+
+void pngListBox::setTextColor(double red, double Green, double Blue)
+{
+    m_textColor = colourOf(red, Green, Blue);
+    update();
+}
+
+void pngListBox::setForeColor(double red, double Green, double Blue)
+{
+    m_foreColor = colourOf(red, Green, Blue);
+    update();
+}
+
+void pngListBox::setTextAlign(TextAlign align)
+{
+    _textAlign = align;
+    update();
+}
+
+void pngListBox::setItemHeight(int height)
+{
+    m_ItemHeight = std::max(1, height);
+    update();
+}
+
+void pngListBox::setDBClickAction(const Action<pngListBox *> &action)
+{
+    dbClickAction = action;
+    bEnableDBClick = true;
+}
+
+FunctionCode pngListBox::getfunctionid(int row) const
+{
+    // The three lists stand for 16 and up, 32 and up, 256 and up.
+    constexpr FunctionCode firstCode[] = {16, 32, 256};
+    Q_ASSERT(hasFunctions());
+    return firstCode[_tag - kCpiListTag] + static_cast<FunctionCode>(row);
+}
+
+void pngListBox::observeWindowKeyChangeStart(const Action<pngListBox *> &action)
+{
+    FocusChangeAction = action;
+    m_keyWatch.start(window(), [this] { windowKeyChange(); });
+}
+
+void pngListBox::observeWindowKeyChangeStop()
+{
+    m_keyWatch.stop();
+}
+
+void pngListBox::windowKeyChange()
+{
+    systemLog("windowKeyChange");
+    FocusChangeAction.send(this);
+}
+
+UpRect pngListBox::strip(int row) const
+{
+    return {0, height() - (row + 1) * m_ItemHeight, width(), m_ItemHeight};
+}
+
+void pngListBox::drawRect(Canvas &canvas)
+{
+    canvas.fill(canvas.bounds(), Qt::black);
+    for (int row = 0; row < getCount(); ++row) {
+        UpRect place = strip(row);
+        if (row == _currentpos)
+            canvas.fill(place, m_foreColor);
+        place.height -= kTextInset;
+        canvas.DrawMyTextwithColor(pListArray[row], place, m_textColor, _textAlign, kTextSize);
+    }
+}
+
+void pngListBox::mouseDown(const ViewMouseEvent &event)
+{
+    if (event.clickCount > 1) {
+        if (bEnableDBClick)
+            dbClickAction.send(this);
+        return;
+    }
+    m_pressedAt = event.event->position().toPoint();
+    const int fromTop = height() - event.position.y;
+    const int row = fromTop / m_ItemHeight;
+    if (fromTop >= 0 && row < getCount())
+        _currentpos = row;
+    update();
+}
+
+void pngListBox::mouseUp(const ViewMouseEvent & /*event*/)
+{
+    changeAction.send(this);
+}
+
+void pngListBox::mouseDragged(const ViewMouseEvent &event)
+{
+    const QPoint way = event.event->position().toPoint() - m_pressedAt;
+    if (!bEnableDragDrop || !hasFunctions() ||
+        way.manhattanLength() < QApplication::startDragDistance())
+        return;
+    if (_currentpos >= 0 && _currentpos < getCount())
+        dragSelectedRow();
+}
+
+void pngListBox::dragSelectedRow()
+{
+    auto *const text = new QMimeData;
+    text->setText(QString::number(getfunctionid(_currentpos)));
+    auto *const drag = new QDrag(this); // the toolkit deletes it when the drag is over
+    drag->setMimeData(text);
+    drag->setPixmap(dragImage());
+    drag->setHotSpot(m_pressedAt - UpHost(height()).down(strip(_currentpos)).topLeft());
+    drag->exec(Qt::CopyAction);
+}
+
+QPixmap pngListBox::dragImage() const
+{
+    const QPixmap row =
+        const_cast<pngListBox *>(this)->grab(UpHost(height()).down(strip(_currentpos)));
+    QPixmap image(row.size());
+    image.setDevicePixelRatio(row.devicePixelRatio());
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setOpacity(kDragOpacity);
+    painter.drawPixmap(0, 0, row);
+    return image;
+}
+
+void pngListBox::keyDown(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+        return moveSelection(-1);
+    case Qt::Key_Down:
+        return moveSelection(+1);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return changeAction.send(this);
+    case Qt::Key_Escape:
+        return FocusChangeAction.send(this);
+    default:
+        return View::keyDown(event);
+    }
+}
+
+void pngListBox::moveSelection(int by)
+{
+    if (getCount() > 0)
+        setcursel(std::clamp(_currentpos + by, 0, getCount() - 1));
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "model/settings.h"
+#include "platform/action.h"
+#include "platform/keywindow.h"
+#include "platform/view.h"
+
+#include <QtCore/QStringList>
+
+/// Tags of the lists whose rows stand for functions.
+inline constexpr int kCpiListTag = 4096;
+inline constexpr int kProfileListTag = 4097;
+inline constexpr int kMacroListTag = 4098;
+
+/// A plain list of text rows with its own colours, one selected row, a double click, and rows that
+/// can be dragged onto buttons. Up and down move the selection, Return sends what a click sends,
+/// Escape what the loss of the keyboard sends.
+class pngListBox : public View
+{
+public:
+    explicit pngListBox(QWidget *parent, UpRect frame = {});
+
+    /// Appends a row; the new count.
+    int AddString(const QString &text);
+    /// Empties the list; the picture follows at the next redraw.
+    void clearAll() { pListArray.clear(); }
+    int getCount() const { return static_cast<int>(pListArray.size()); }
+    /// The text of a row; empty for a row outside the list.
+    QString stringAt(int row) const { return pListArray.value(row); }
+
+    /// Selects a row (-1 = none) without telling anybody.
+    void setcursel(int row);
+    int getcursel() const { return _currentpos; }
+
+    /// Colours of the texts and of the selected row, 0..255 a component.
+    void setTextColor(double red, double Green, double Blue);
+    void setForeColor(double red, double Green, double Blue);
+    void setTextAlign(TextAlign align);
+    /// Height of a row in points; less than 1 is taken as 1.
+    void setItemHeight(int height);
+    void enableDragDrop(bool enable) { bEnableDragDrop = enable; }
+
+    /// Sent with the list on every release of the mouse, whether or not the selection changed.
+    void setChangeAction(const Action<pngListBox *> &action) { changeAction = action; }
+    /// Sent with the list on a double click.
+    void setDBClickAction(const Action<pngListBox *> &action);
+    void setTag(int tag) { _tag = tag; }
+    int tag() const { return _tag; }
+
+    /// The function that a row of the CPI, profile or macro list stands for. Lists with other tags
+    /// have none and must not be asked.
+    FunctionCode getfunctionid(int row) const;
+
+    /// Sends the action with the list when its window stops being the key window.
+    void observeWindowKeyChangeStart(const Action<pngListBox *> &action);
+    void observeWindowKeyChangeStop();
+
+protected:
+    void drawRect(Canvas &canvas) override;
+    void mouseDown(const ViewMouseEvent &event) override;
+    void mouseUp(const ViewMouseEvent &event) override;
+    void mouseDragged(const ViewMouseEvent &event) override;
+    void keyDown(QKeyEvent *event) override;
+
+private:
+    UpRect strip(int row) const;
+    bool hasFunctions() const { return _tag >= kCpiListTag && _tag <= kMacroListTag; }
+    void windowKeyChange();
+    void moveSelection(int by);
+    void dragSelectedRow();
+    QPixmap dragImage() const;
+
+    QStringList pListArray;
+    int _tag = 0;
+    Action<pngListBox *> changeAction;
+    Action<pngListBox *> FocusChangeAction;
+    Action<pngListBox *> dbClickAction;
+    int _currentpos = -1;
+    TextAlign _textAlign = TextAlign::Centre;
+    QColor m_textColor{255, 255, 255};
+    QColor m_foreColor{41, 41, 41};
+    bool bEnableDragDrop = false;
+    bool bEnableDBClick = false;
+    int m_ItemHeight = 20;
+    KeyWindowWatch m_keyWatch;
+    QPoint m_pressedAt; ///< where the left button went down, for the drag threshold
+};

@@ -1,0 +1,120 @@
+#include "controls/pngprogressbar.h"
+
+#include <QtGui/QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+pngProgressBar::pngProgressBar(QWidget *parent, UpRect frame) : ViewOf(parent)
+{
+    setFrame(frame);
+    setFocusPolicy(Qt::TabFocus);
+    updateSlider();
+    connect(this, &QAbstractSlider::actionTriggered, this, &pngProgressBar::takeSliderAction);
+}
+
+void pngProgressBar::setBKImage(const SkinImage &image)
+{
+    BKImage = image;
+    update();
+}
+
+void pngProgressBar::setOverImage(const SkinImage &image)
+{
+    OverImage = image;
+    update();
+}
+
+void pngProgressBar::setDirStyle(int style)
+{
+    _DirStyle = style;
+    setOrientation(isHorizontal() ? Qt::Horizontal : Qt::Vertical);
+    update();
+}
+
+void pngProgressBar::setposRange(double minValue, double maxValue)
+{
+    _minimum = minValue;
+    _maximum = std::max(minValue, maxValue);
+    setPos(getPos());
+}
+
+void pngProgressBar::setAllowMouseChangeFlag(bool allow)
+{
+    bAllowMouseChangeFlag = allow;
+    setFocusPolicy(allow ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void pngProgressBar::setPos(int pos)
+{
+    _currentpos = std::clamp(static_cast<double>(pos), _minimum, _maximum);
+    updateSlider();
+    update();
+}
+
+/// Keeps the toolkit's idea of the value in step, for the keyboard and assistive technology.
+void pngProgressBar::updateSlider()
+{
+    setRange(static_cast<int>(_minimum), static_cast<int>(_maximum));
+    setValue(getPos());
+}
+
+int pngProgressBar::uncovered(int length) const
+{
+    const double range = _maximum - _minimum;
+    return range > 0 ? static_cast<int>(length * _currentpos / range) : 0;
+}
+
+void pngProgressBar::drawRect(Canvas &canvas)
+{
+    canvas.drawImage(BKImage);
+    const QSize shown =
+        isHorizontal() ? QSize(uncovered(width()), height()) : QSize(width(), uncovered(height()));
+    canvas.drawImagePart(OverImage, {}, shown);
+    if (hasFocus())
+        canvas.outline(canvas.bounds(), kWhite);
+}
+
+void pngProgressBar::mouseDown(const ViewMouseEvent &event)
+{
+    if (bAllowMouseChangeFlag)
+        followPointer(event.position);
+}
+
+void pngProgressBar::mouseDragged(const ViewMouseEvent &event)
+{
+    if (bAllowMouseChangeFlag)
+        followPointer(event.position);
+}
+
+void pngProgressBar::followPointer(UpPoint point)
+{
+    const int along = isHorizontal() ? point.x : point.y;
+    const int length = std::max(1, isHorizontal() ? width() : height());
+    // The minimum is not added back, on purpose: the left or bottom edge stands for 0, which
+    // setPos() raises to the minimum.
+    setPos(static_cast<int>(along * (_maximum - _minimum) / length));
+    changeAction.send(this);
+}
+
+void pngProgressBar::keyDown(QKeyEvent *event)
+{
+    if (bAllowMouseChangeFlag)
+        ViewOf::keyDown(event);
+    else
+        event->ignore();
+}
+
+void pngProgressBar::wheelEvent(QWheelEvent *event)
+{
+    if (bAllowMouseChangeFlag)
+        ViewOf::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+void pngProgressBar::takeSliderAction()
+{
+    setPos(sliderPosition());
+    changeAction.send(this);
+}

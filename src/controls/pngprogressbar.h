@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/action.h"
+#include "platform/view.h"
+
+#include <QtWidgets/QAbstractSlider>
+
+/// A bar drawn from two pictures, the over picture uncovered as far as the position goes; where the
+/// mouse may change it, a slider, also for the arrow keys.
+class pngProgressBar : public ViewOf<QAbstractSlider>
+{
+public:
+    explicit pngProgressBar(QWidget *parent, UpRect frame = {});
+
+    void setBKImage(const SkinImage &image);
+    void setOverImage(const SkinImage &image);
+    /// 1 = horizontal, filling from the left; any other value = vertical, filling from the bottom.
+    void setDirStyle(int style);
+    void setposRange(double minValue, double maxValue);
+    void setAllowMouseChangeFlag(bool allow);
+    /// Sent with the bar after every change by the user.
+    void setChangeAction(const Action<pngProgressBar *> &action) { changeAction = action; }
+
+    /// Takes the position, bounded to the range.
+    void setPos(int pos);
+    int getPos() const { return static_cast<int>(_currentpos); }
+
+    void setTag(int tag) { _tag = tag; }
+    int tag() const { return _tag; }
+
+protected:
+    void drawRect(Canvas &canvas) override;
+    void mouseDown(const ViewMouseEvent &event) override;
+    void mouseDragged(const ViewMouseEvent &event) override;
+    void keyDown(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    bool isHorizontal() const { return _DirStyle == 1; }
+    int uncovered(int length) const;
+    void followPointer(UpPoint point);
+    void takeSliderAction();
+    void updateSlider();
+
+    double _currentpos = 0;
+    double _minimum = 0;
+    double _maximum = 100.0;
+    int _DirStyle = 1;
+    SkinImage OverImage;
+    SkinImage BKImage;
+    int _tag = 0;
+    Action<pngProgressBar *> changeAction;
+    bool bAllowMouseChangeFlag = true;
+};

@@ -1,0 +1,42 @@
+#include "dialogs/popupprogressbar.h"
+
+namespace {
+
+constexpr UpRect kBar{20, 18, 180, 16};
+constexpr UpRect kMessage{12, 44, 232, 15};
+constexpr UpRect kPercent{206, 18, 40, 16};
+constexpr int kTextSize = 11;
+
+} // namespace
+
+PopupProgressBar::PopupProgressBar(QWidget *parent)
+    : View(parent),
+      BKImage(SkinImage::named("Pop_UP_normal")),
+      WriteToDeviceBar(new pngProgressBar(this))
+{
+    setFrame({0, 0, kWidth, kHeight});
+    WriteToDeviceBar->setObjectName(QStringLiteral("WriteToDeviceBar"));
+    WriteToDeviceBar->setFrame(kBar);
+    WriteToDeviceBar->setBKImage(SkinImage::CopyImagefromrect(BKImage, kBar));
+    WriteToDeviceBar->setOverImage(
+        SkinImage::CopyImagefromrect(SkinImage::named("Pop_UP_over"), kBar));
+    WriteToDeviceBar->setposRange(0, 100);
+    WriteToDeviceBar->setAllowMouseChangeFlag(false);
+}
+
+void PopupProgressBar::SetProgressPos(int pos)
+{
+    WriteToDeviceBar->setPos(pos);
+    m_iPos = WriteToDeviceBar->getPos();
+    update();
+}
+
+void PopupProgressBar::drawRect(Canvas &canvas)
+{
+    canvas.clear();
+    canvas.drawImage(BKImage);
+    canvas.DrawMyTextwithColor(QStringLiteral("Applying profile to on-board memory..."), kMessage,
+                               kGold, TextAlign::Left, kTextSize);
+    canvas.DrawMyTextwithColor(QString::asprintf("%d%%", m_iPos), kPercent, kGold, TextAlign::Left,
+                               kTextSize);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "controls/pngprogressbar.h"
+#include "platform/view.h"
+
+/// The insides of the window that shows the progress of an on-board write.
+class PopupProgressBar : public View
+{
+public:
+    static constexpr int kWidth = 256;
+    static constexpr int kHeight = 74;
+
+    explicit PopupProgressBar(QWidget *parent);
+
+    /// Shows a progress of 0..100 per cent; other values are taken as the nearest of these.
+    void SetProgressPos(int pos);
+    int progressPos() const { return m_iPos; }
+
+protected:
+    void drawRect(Canvas &canvas) override;
+
+private:
+    SkinImage BKImage;
+    pngProgressBar *WriteToDeviceBar;
+    int m_iPos = 0;
+};

@@ -1,0 +1,138 @@
+#include "mainview/mainview.h"
+
+/// The four states of the whole window, from which every control's faces are cut.
+struct MainView::Skin
+{
+    SkinImage BKImage = SkinImage::named("mainbk");
+    SkinImage BKOver = SkinImage::named("mainO");
+    SkinImage BKDown = SkinImage::named("mainD");
+    SkinImage BKDisable = SkinImage::named("mainDis");
+};
+
+namespace {
+
+struct Label
+{
+    const char *text;
+    UpRect rect;
+    TextAlign align;
+    int size;
+};
+
+constexpr Label kLabels[] = {
+    {"PROFILE", {70, 520, 70, 15}, TextAlign::Centre, 11},
+    {"Enable in-game mode", {80, 395, 120, 15}, TextAlign::Left, 10},
+    {"Mouse Memory usage", {60, 368, 138, 15}, TextAlign::Left, 10},
+};
+constexpr UpRect kPercentRect{154, 350, 45, 15};
+constexpr int kPercentSize = 10;
+constexpr int kFullMemory = 64;
+
+UpRect profileColorLine(unsigned index)
+{
+    const auto profile =
+        static_cast<ControlId>(static_cast<unsigned>(ControlId::BtnProfile1) + index);
+    const UpRect frame = controlRow(profile).frame;
+    return {frame.x + 2, frame.y - 10, frame.width - 4, 5};
+}
+
+/// A control without a command is not offered. The profile keys go on showing the current profile.
+void showUnavailable(HoverButton &button, ControlKind kind)
+{
+    button.setFocusPolicy(Qt::NoFocus);
+    button.setAttribute(Qt::WA_TransparentForMouseEvents);
+    if (kind == ControlKind::Push)
+        button.setDisable(true);
+}
+
+float colourComponent(std::uint32_t level)
+{
+    return static_cast<float>(std::min(level, 255U)) / 255.0F;
+}
+
+} // namespace
+
+void MainView::buildControls()
+{
+    const Skin skin;
+    BKImage = skin.BKImage;
+    for (const ControlRow &row : kControlTable) {
+        switch (row.kind) {
+        case ControlKind::Check:
+            AddCheckButton(row, skin);
+            break;
+        case ControlKind::Push:
+            AddButton(row, skin);
+            break;
+        case ControlKind::ProgressBar:
+            addMemoryUsageBar(row, skin);
+            break;
+        }
+    }
+}
+
+void MainView::AddCheckButton(const ControlRow &row, const Skin &skin)
+{
+    addHoverButton(row, skin)->setCheckable(true);
+}
+
+void MainView::AddButton(const ControlRow &row, const Skin &skin)
+{
+    addHoverButton(row, skin);
+}
+
+HoverButton *MainView::addHoverButton(const ControlRow &row, const Skin &skin)
+{
+    auto *const button = new HoverButton(this, row.frame);
+    button->setObjectName(QLatin1String(row.name));
+    button->setAccessibleName(QLatin1String(row.description));
+    button->setTag(row.tag);
+    button->setNormalImage(SkinImage::CopyImagefromrect(skin.BKImage, row.frame));
+    button->setHoverImage(SkinImage::CopyImagefromrect(skin.BKOver, row.frame));
+    button->setAlternateImage(SkinImage::CopyImagefromrect(skin.BKDown, row.frame));
+    button->setDisableImage(SkinImage::CopyImagefromrect(skin.BKDisable, row.frame));
+    button->setCaptionText(QLatin1String(row.caption));
+    button->setAction({this, &MainView::buttonAction});
+    button->setRightAction({this, &MainView::buttonRightAction});
+    if (row.tag >= kFirstButtonTag && row.tag <= kLastButtonTag)
+        button->enableDragDrop({this, &MainView::DragDropButtonAction});
+    m_buttons[static_cast<std::size_t>(row.id)] = button;
+    if (!commandOf(row.tag))
+        showUnavailable(*button, row.kind);
+    return button;
+}
+
+void MainView::addMemoryUsageBar(const ControlRow &row, const Skin &skin)
+{
+    MSMemoryUsageBar = new pngProgressBar(this, row.frame);
+    MSMemoryUsageBar->setObjectName(QLatin1String(row.name));
+    MSMemoryUsageBar->setAccessibleName(QLatin1String(row.description));
+    MSMemoryUsageBar->setTag(row.tag);
+    MSMemoryUsageBar->setDirStyle(1);
+    MSMemoryUsageBar->setBKImage(SkinImage::CopyImagefromrect(skin.BKImage, row.frame));
+    MSMemoryUsageBar->setOverImage(SkinImage::CopyImagefromrect(skin.BKOver, row.frame));
+    MSMemoryUsageBar->setposRange(0, kFullMemory);
+    MSMemoryUsageBar->setAllowMouseChangeFlag(false);
+}
+
+void MainView::drawRect(Canvas &canvas)
+{
+    canvas.clear();
+    canvas.drawImage(BKImage);
+    for (const Label &label : kLabels)
+        canvas.DrawMyTextwithColor(QLatin1String(label.text), label.rect, kGold, label.align,
+                                   label.size);
+    const int percent = static_cast<int>(m_MSMemoryUsage) * 100 / kFullMemory;
+    canvas.DrawMyTextwithColor(QString::asprintf("%d%%", percent), kPercentRect, kGold,
+                               TextAlign::Left, kPercentSize);
+    for (unsigned index = 0; index < kProfileCount; ++index)
+        DrawProfileColorLine(canvas, index);
+}
+
+void MainView::DrawProfileColorLine(Canvas &canvas, unsigned index)
+{
+    const ProfileInfo &profile = ProfileAt(index);
+    canvas.fill(profileColorLine(index), QColor::fromRgbF(colourComponent(profile.LED_COLOR_R),
+                                                          colourComponent(profile.LED_COLOR_G),
+                                                          colourComponent(profile.LED_COLOR_B)));
+}

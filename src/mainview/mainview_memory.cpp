@@ -1,0 +1,61 @@
+#include "functions/functioncodes.h"
+#include "mainview/mainview.h"
+#include "model/fixedtext.h"
+
+namespace {
+
+constexpr std::uint32_t kProfileBytes = 75; ///< what every profile takes, whatever its buttons do
+constexpr std::uint32_t kModeCopyPaste = 0;
+constexpr std::uint32_t kModeRecordDelay = 2;
+
+std::uint32_t eventBytes(const MacroInfo &macro)
+{
+    std::uint32_t bytes = 0;
+    for (const KeymapEvent &event : macro.KEYMAP) {
+        if (event.kind == 0)
+            break;
+        if (event.kind == 1 || event.kind == 2)
+            bytes += 2;
+        if (macro.MODE == kModeRecordDelay && event.delay != 0)
+            bytes += 2;
+    }
+    return bytes;
+}
+
+std::uint32_t copyPasteBytes(const MacroInfo &macro)
+{
+    const auto length = static_cast<std::uint32_t>(GetText(macro.COPY_PASTER).size());
+    return (macro.bSTARTKEY ? 4 : 0) + 4 * length + (macro.bSENDKEY ? 4 : 0);
+}
+
+std::uint32_t macroBytes(const MacroInfo &macro)
+{
+    const std::uint32_t bytes =
+        macro.MODE == kModeCopyPaste ? copyPasteBytes(macro) : eventBytes(macro);
+    return (bytes & 0xFFFFU) != 0 ? bytes + 2 : bytes;
+}
+
+} // namespace
+
+std::uint32_t MainView::GetMacroBlockInfo(FunctionCode code)
+{
+    const FunctionCode low = code & 0xFFFFU;
+    if (const auto slot = functions::macroSlot(low))
+        return macroBytes(MacroAt(CurrentProfile(), *slot));
+    if (const functions::BasicFunction *basic = functions::basicFunction(low))
+        return basic->size;
+    const functions::GameCommand *command = functions::gameCommand(low);
+    return command ? command->size : 0;
+}
+
+void MainView::CalcMouseMemoryUsage()
+{
+    std::uint32_t total = kProfileBytes;
+    if (m_Config.GAME_MODE == 0) {
+        for (const FunctionCode code : CurrentProfile().BUTTON)
+            total += GetMacroBlockInfo(code & 0xFFFFU) & 0xFFFFU;
+    }
+    m_MSMemoryUsage = (total * 8) >> 10U;
+    MSMemoryUsageBar->setPos(static_cast<int>(m_MSMemoryUsage));
+    update();
+}

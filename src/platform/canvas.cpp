@@ -1,0 +1,94 @@
+#include "platform/canvas.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QWidget>
+
+namespace {
+
+Qt::Alignment horizontal(TextAlign align)
+{
+    switch (align) {
+    case TextAlign::Right:
+        return Qt::AlignRight;
+    case TextAlign::Centre:
+        return Qt::AlignHCenter;
+    case TextAlign::Left:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+} // namespace
+
+QFont systemFont(int size)
+{
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(size);
+    return font;
+}
+
+Canvas::Canvas(QWidget &view)
+    : m_painter(&view), m_bounds{0, 0, view.width(), view.height()}, m_host(view.height())
+{
+}
+
+void Canvas::clear()
+{
+    m_painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    m_painter.fillRect(m_host.down(m_bounds), Qt::transparent);
+    m_painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+void Canvas::fill(UpRect rect, const QColor &colour)
+{
+    m_painter.fillRect(m_host.down(rect), colour);
+}
+
+void Canvas::outline(UpRect rect, const QColor &colour)
+{
+    m_painter.setPen(colour);
+    m_painter.drawRect(m_host.down(rect).adjusted(0, 0, -1, -1));
+}
+
+void Canvas::drawImage(const SkinImage &image, UpPoint origin, qreal opacity)
+{
+    if (image.isNull())
+        return;
+    const UpRect place{origin.x, origin.y, image.size().width(), image.size().height()};
+    m_painter.setOpacity(opacity);
+    m_painter.drawPixmap(m_host.down(place).topLeft(), image.pixmap());
+    m_painter.setOpacity(1.0);
+}
+
+void Canvas::drawImagePart(const SkinImage &image, UpPoint origin, QSize size)
+{
+    const QSize shown = size.boundedTo(image.size());
+    if (shown.isEmpty())
+        return;
+    const UpRect part{0, 0, shown.width(), shown.height()};
+    const QRect source = UpHost(image.size().height()).down(part);
+    const QRect target = m_host.down(UpRect{origin.x, origin.y, part.width, part.height});
+    const qreal scale = image.pixmap().devicePixelRatio();
+    m_painter.drawPixmap(QRectF(target), image.pixmap(),
+                         QRectF(QPointF(source.topLeft()) * scale, QSizeF(source.size()) * scale));
+}
+
+void Canvas::drawLine(const QString &text, UpRect rect, const QColor &colour, TextAlign align,
+                      int fontSize)
+{
+    m_painter.setFont(systemFont(fontSize));
+    m_painter.setPen(colour);
+    const QString line = m_painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width);
+    m_painter.drawText(m_host.down(rect), horizontal(align) | Qt::AlignVCenter | Qt::TextSingleLine,
+                       line);
+}
+
+void Canvas::DrawMyTextwithColor(const QString &text, UpRect textRect, const QColor &textColor,
+                                 TextAlign textAlign, int fontSize)
+{
+    m_painter.setFont(systemFont(fontSize));
+    m_painter.setPen(textColor);
+    m_painter.drawText(m_host.down(textRect),
+                       horizontal(textAlign) | Qt::AlignTop | Qt::TextWordWrap | Qt::TextDontClip,
+                       text);
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/skinimage.h"
+#include "platform/uprect.h"
+
+#include <QtGui/QColor>
+#include <QtGui/QFont>
+#include <QtGui/QPainter>
+
+class QWidget;
+
+/// The system's paragraph alignments, by their numbers.
+enum class TextAlign { Left = 0, Right = 1, Centre = 2 };
+
+/// The colours that the whole skin shares.
+inline constexpr QColor kGold = QColor(255, 180, 0);
+inline constexpr QColor kWhite = QColor(255, 255, 255);
+
+/// The system font at a size in points of the view, that is in pixels at scale 1.
+QFont systemFont(int size);
+
+/// The surface of a view while it draws itself, in upward coordinates.
+class Canvas
+{
+public:
+    explicit Canvas(QWidget &view);
+
+    UpRect bounds() const { return m_bounds; }
+
+    /// Makes the whole view transparent.
+    void clear();
+    void fill(UpRect rect, const QColor &colour);
+    void outline(UpRect rect, const QColor &colour);
+    /// Draws `image` over what is there, its lower left corner at `origin`.
+    void drawImage(const SkinImage &image, UpPoint origin = {}, qreal opacity = 1.0);
+    /// Draws the lower left `size` of `image`, unscaled, at `origin`.
+    void drawImagePart(const SkinImage &image, UpPoint origin, QSize size);
+    /// Draws one line of text, cut with an ellipsis at its end where it is too long, centred
+    /// vertically in `rect`.
+    void drawLine(const QString &text, UpRect rect, const QColor &colour, TextAlign align,
+                  int fontSize);
+    /// Draws `text` from the top of `textRect` downwards, wrapped at words; not clipped below.
+    void DrawMyTextwithColor(const QString &text, UpRect textRect, const QColor &textColor,
+                             TextAlign textAlign, int fontSize);
+
+private:
+    QPainter m_painter;
+    UpRect m_bounds;
+    UpHost m_host;
+};

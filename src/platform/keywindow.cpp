@@ -1,0 +1,43 @@
+#include "platform/keywindow.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
+
+void makeKeyAndOrderFront(QWidget &window)
+{
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+void makeKeyWindow(QWidget &window)
+{
+    if (QApplication::activeWindow())
+        window.activateWindow();
+}
+
+void KeyWindowWatch::start(QWidget *window, std::function<void()> resigned)
+{
+    stop();
+    m_window = window;
+    m_resigned = std::move(resigned);
+    window->installEventFilter(this);
+}
+
+void KeyWindowWatch::stop()
+{
+    if (m_window)
+        m_window->removeEventFilter(this);
+    m_window = nullptr;
+    m_resigned = {};
+}
+
+bool KeyWindowWatch::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window && event->type() == QEvent::WindowDeactivate) {
+        const auto resigned = m_resigned; // the call may stop the watch
+        resigned();
+    }
+    return false;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+
+#include <functional>
+
+class QWidget;
+
+/// Brings `window` to the front and gives it the keyboard.
+void makeKeyAndOrderFront(QWidget &window);
+
+/// Gives `window` the keyboard, unless another program has it.
+void makeKeyWindow(QWidget &window);
+
+/// Tells when a window stops being the one that has the keyboard.
+class KeyWindowWatch : public QObject
+{
+public:
+    /// Calls `resigned` each time `window` loses the keyboard, until stop(). A watch that runs
+    /// already is replaced.
+    void start(QWidget *window, std::function<void()> resigned);
+    void stop();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QPointer<QWidget> m_window;
+    std::function<void()> m_resigned;
+};

@@ -1,0 +1,148 @@
+#include "platform/plistbounds.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace plist {
+
+namespace {
+
+constexpr std::string_view kBinaryMagic = "bplist00";
+
+using Number = std::optional<std::uint64_t>;
+
+Number bigEndian(std::string_view bytes, std::uint64_t at, std::uint64_t size)
+{
+    if (size > 8 || at > bytes.size() || size > bytes.size() - at)
+        return {};
+    std::uint64_t value = 0;
+    for (const char byte : bytes.substr(at, size))
+        value = value << 8U | static_cast<unsigned char>(byte);
+    return value;
+}
+
+/// Where the references of an array or a dictionary stand.
+struct References
+{
+    std::uint64_t first = 0;
+    std::uint64_t count = 0;
+};
+
+/// Visits the objects of a binary property list as the parser would. The form ends in a 32-byte
+/// trailer: sizes of offsets and of references, number of objects, root object, place of the table
+/// of offsets. An object's first byte tells its type in the high half (0xA array, 0xC set, 0xD
+/// dictionary) and its length in the low half, where 0xF says that an integer object follows.
+class BinaryWalk
+{
+public:
+    explicit BinaryWalk(std::string_view bytes)
+        : m_bytes(bytes),
+          m_trailer(bytes.substr(bytes.size() - kTrailerSize)),
+          m_offsetSize(*bigEndian(m_trailer, 6, 1)),
+          m_referenceSize(*bigEndian(m_trailer, 7, 1)),
+          m_table(*bigEndian(m_trailer, 24, 8))
+    {
+    }
+
+    static constexpr std::size_t kTrailerSize = 32;
+
+    bool staysWithinBounds()
+    {
+        m_toVisit.push_back(*bigEndian(m_trailer, 16, 8));
+        while (!m_toVisit.empty()) {
+            const auto object = m_toVisit.back();
+            m_toVisit.pop_back();
+            if (!visit(object))
+                return false;
+        }
+        return true;
+    }
+
+private:
+    bool visit(std::uint64_t object)
+    {
+        // Bounded first, so that the product cannot wrap.
+        if (object > m_bytes.size() || m_table > m_bytes.size())
+            return false;
+        const Number offset = bigEndian(m_bytes, m_table + object * m_offsetSize, m_offsetSize);
+        const Number marker = offset ? bigEndian(m_bytes, *offset, 1) : Number();
+        if (!marker)
+            return false;
+        const auto type = *marker >> 4U;
+        if (type != 0xA && type != 0xC && type != 0xD)
+            return true;
+        const auto references = referencesAt(*offset, *marker);
+        return references && ++m_containers <= kMostContainers && push(*references);
+    }
+
+    std::optional<References> referencesAt(std::uint64_t offset, std::uint64_t marker) const
+    {
+        References references{offset + 1, marker & 0xFU};
+        if (references.count == 0xF) {
+            const Number length = bigEndian(m_bytes, offset + 1, 1);
+            if (!length || *length >> 4U != 1)
+                return {};
+            const auto size = std::uint64_t{1} << (*length & 0xFU);
+            const Number count = bigEndian(m_bytes, offset + 2, size);
+            if (!count)
+                return {};
+            references = {offset + 2 + size, *count};
+        }
+        if (references.count > kMostBinaryNodes)
+            return {};
+        const bool isDictionary = marker >> 4U == 0xD;
+        references.count *= isDictionary ? 2 : 1;
+        return references;
+    }
+
+    bool push(const References &references)
+    {
+        m_nodes += references.count;
+        if (m_nodes > kMostBinaryNodes)
+            return false;
+        for (std::uint64_t i = 0; i < references.count; ++i) {
+            const auto at = references.first + i * m_referenceSize;
+            const Number object = bigEndian(m_bytes, at, m_referenceSize);
+            if (!object)
+                return false;
+            m_toVisit.push_back(*object);
+        }
+        return true;
+    }
+
+    std::string_view m_bytes;
+    std::string_view m_trailer;
+    std::uint64_t m_offsetSize;
+    std::uint64_t m_referenceSize;
+    std::uint64_t m_table;
+    std::vector<std::uint64_t> m_toVisit;
+    std::size_t m_containers = 0;
+    std::size_t m_nodes = 0;
+};
+
+} // namespace
+
+bool isBinary(std::string_view bytes)
+{
+    return bytes.starts_with(kBinaryMagic);
+}
+
+bool isXmlWithinBounds(std::string_view bytes)
+{
+    std::size_t count = 0;
+    for (auto at = bytes.find('<'); at != bytes.npos; at = bytes.find('<', at + 1)) {
+        const auto tag = bytes.substr(at + 1, 5);
+        if (tag.starts_with("dict") || tag == "array")
+            ++count;
+    }
+    return count <= kMostContainers;
+}
+
+bool isBinaryWithinBounds(std::string_view bytes)
+{
+    return bytes.size() >= kBinaryMagic.size() + BinaryWalk::kTrailerSize &&
+           BinaryWalk(bytes).staysWithinBounds();
+}
+
+} // namespace plist
