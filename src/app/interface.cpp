@@ -14,5 +14,10 @@ Interface::Interface(const Environment &environment)
     m_mainWindow->setCloseRequest({m_mainView, &MainView::commitAndQuit});
     m_mainWindow->setContentView(m_mainView);
     m_mainWindow->center();
+    // Shown before its content wakes up: the desktop maps the window while settings and skin load,
+    // and the first picture that the player sees is the whole one.
+    m_mainView->hide();
+    m_mainWindow->show();
     m_mainView->awakeFromNib();
+    m_mainView->show();
 }

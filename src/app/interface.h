@@ -11,8 +11,8 @@ class MainView;
 class Interface
 {
 public:
-    /// Makes the main window in the middle of the screen with the main view in it, and wakes the
-    /// view up. Nothing is shown yet.
+    /// Makes the main window in the middle of the screen with the main view in it, shows it and
+    /// wakes the view up.
     explicit Interface(const Environment &environment);
 
     custumwindow &mainWindow() const { return *m_mainWindow; }

@@ -21,7 +21,6 @@ int main(int argc, char **argv)
     const Interface interface({kSettingsPath, notifications.get(), &QCoreApplication::quit});
     KyrGMAppDelegate delegate;
     delegate.setWindow(&interface.mainWindow());
-    interface.mainWindow().show();
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

@@ -15,13 +15,17 @@ bool takeNumber(unsigned &cursor, std::string_view text, std::uint32_t &number)
     return token.has_value();
 }
 
-void appendNumber(std::string &text, std::uint32_t number)
+/// "-2147483648,"
+constexpr std::size_t kLongestNumber = 12;
+
+/// Puts `number` and its comma at `place`; what follows it.
+char *putNumber(char *place, std::uint32_t number)
 {
-    char digits[12];
     // Written signed, as the file's integers are.
-    const auto end = std::to_chars(digits, std::end(digits), static_cast<std::int32_t>(number)).ptr;
-    text.append(digits, end);
-    text += ',';
+    const auto value = static_cast<std::int32_t>(number);
+    char *const end = std::to_chars(place, place + kLongestNumber, value).ptr;
+    *end = ',';
+    return end + 1;
 }
 
 } // namespace
@@ -51,12 +55,15 @@ void readEventList(std::string_view text, std::span<KeymapEvent> events)
 
 std::string allEventsText(std::span<const KeymapEvent> events)
 {
-    std::string text;
+    // One buffer of the greatest length: a full list is 1500 numbers, and a file may hold 500 lists.
+    std::string text(events.size() * 3 * kLongestNumber, '\0');
+    char *place = text.data();
     for (const KeymapEvent &event : events) {
-        appendNumber(text, event.keycode);
-        appendNumber(text, event.kind);
-        appendNumber(text, event.delay);
+        place = putNumber(place, event.keycode);
+        place = putNumber(place, event.kind);
+        place = putNumber(place, event.delay);
     }
+    text.resize(static_cast<std::size_t>(place - text.data()));
     return text;
 }
 

@@ -1,13 +1,17 @@
 #include "platform/numbers.h"
 
-#include <algorithm>
-
 namespace {
+
+bool isBlank(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
 std::string_view withoutLeadingBlanks(std::string_view text)
 {
-    const auto first = text.find_first_not_of(" \t\r\n\v\f");
-    return first == text.npos ? std::string_view() : text.substr(first);
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    return text;
 }
 
 std::int32_t digits(std::string_view text)
@@ -16,7 +20,9 @@ std::int32_t digits(std::string_view text)
     for (const char c : text) {
         if (c < '0' || c > '9')
             break;
-        value = std::min<std::int64_t>(value * 10 + (c - '0'), INT32_MAX);
+        value = value * 10 + (c - '0');
+        if (value > INT32_MAX)
+            return INT32_MAX;
     }
     return static_cast<std::int32_t>(value);
 }

@@ -1,5 +1,6 @@
 #include "platform/plistbounds.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -22,8 +23,8 @@ Number bigEndian(std::string_view bytes, std::uint64_t at, std::uint64_t size)
     return value;
 }
 
-/// Where the references of an array or a dictionary stand.
-struct References
+/// Where the references of an array or a dictionary, or the characters of a text, stand.
+struct Contents
 {
     std::uint64_t first = 0;
     std::uint64_t count = 0;
@@ -32,7 +33,8 @@ struct References
 /// Visits the objects of a binary property list as the parser would. The form ends in a 32-byte
 /// trailer: sizes of offsets and of references, number of objects, root object, place of the table
 /// of offsets. An object's first byte tells its type in the high half (0xA array, 0xC set, 0xD
-/// dictionary) and its length in the low half, where 0xF says that an integer object follows.
+/// dictionary, 4 to 7 bytes and texts) and its length in the low half, where 0xF says that an
+/// integer object follows.
 class BinaryWalk
 {
 public:
@@ -70,33 +72,49 @@ private:
         if (!marker)
             return false;
         const auto type = *marker >> 4U;
-        if (type != 0xA && type != 0xC && type != 0xD)
-            return true;
-        const auto references = referencesAt(*offset, *marker);
-        return references && ++m_containers <= kMostContainers && push(*references);
+        if (isContainer(type))
+            return enter(type, contentsAt(*offset, *marker));
+        return !isText(type) || addText(contentsAt(*offset, *marker));
     }
 
-    std::optional<References> referencesAt(std::uint64_t offset, std::uint64_t marker) const
+    static bool isContainer(std::uint64_t type)
     {
-        References references{offset + 1, marker & 0xFU};
-        if (references.count == 0xF) {
-            const Number length = bigEndian(m_bytes, offset + 1, 1);
-            if (!length || *length >> 4U != 1)
-                return {};
-            const auto size = std::uint64_t{1} << (*length & 0xFU);
-            const Number count = bigEndian(m_bytes, offset + 2, size);
-            if (!count)
-                return {};
-            references = {offset + 2 + size, *count};
-        }
-        if (references.count > kMostBinaryNodes)
+        return type == 0xA || type == 0xC || type == 0xD;
+    }
+    static bool isText(std::uint64_t type) { return type >= 0x4 && type <= 0x7; }
+
+    std::optional<Contents> contentsAt(std::uint64_t offset, std::uint64_t marker) const
+    {
+        const auto count = marker & 0xFU;
+        if (count != 0xF)
+            return Contents{offset + 1, count};
+        const Number length = bigEndian(m_bytes, offset + 1, 1);
+        if (!length || *length >> 4U != 1)
             return {};
-        const bool isDictionary = marker >> 4U == 0xD;
-        references.count *= isDictionary ? 2 : 1;
-        return references;
+        const auto size = std::uint64_t{1} << (*length & 0xFU);
+        const Number longCount = bigEndian(m_bytes, offset + 2, size);
+        if (!longCount)
+            return {};
+        return Contents{offset + 2 + size, *longCount};
     }
 
-    bool push(const References &references)
+    bool enter(std::uint64_t type, std::optional<Contents> references)
+    {
+        if (!references || references->count > kMostBinaryNodes || ++m_containers > kMostContainers)
+            return false;
+        references->count *= type == 0xD ? 2 : 1;
+        return push(*references);
+    }
+
+    bool addText(const std::optional<Contents> &text)
+    {
+        if (!text || text->count > kMostBinaryText)
+            return false;
+        m_text += text->count;
+        return m_text <= kMostBinaryText;
+    }
+
+    bool push(const Contents &references)
     {
         m_nodes += references.count;
         if (m_nodes > kMostBinaryNodes)
@@ -119,7 +137,21 @@ private:
     std::vector<std::uint64_t> m_toVisit;
     std::size_t m_containers = 0;
     std::size_t m_nodes = 0;
+    std::size_t m_text = 0;
 };
+
+bool opensContainer(std::string_view tag)
+{
+    return tag.starts_with("dict") || tag.starts_with("array");
+}
+
+std::size_t countEntities(std::string_view text)
+{
+    std::size_t count = 0;
+    for (auto at = text.find('&'); at != text.npos; at = text.find('&', at + 1))
+        ++count;
+    return count;
+}
 
 } // namespace
 
@@ -130,13 +162,18 @@ bool isBinary(std::string_view bytes)
 
 bool isXmlWithinBounds(std::string_view bytes)
 {
-    std::size_t count = 0;
-    for (auto at = bytes.find('<'); at != bytes.npos; at = bytes.find('<', at + 1)) {
-        const auto tag = bytes.substr(at + 1, 5);
-        if (tag.starts_with("dict") || tag == "array")
-            ++count;
+    std::size_t containers = 0;
+    std::size_t entityWork = 0;
+    for (auto at = bytes.find('<'); at != bytes.npos;) {
+        const auto next = std::min(bytes.find('<', at + 1), bytes.size());
+        const auto piece = bytes.substr(at + 1, next - at - 1);
+        containers += opensContainer(piece);
+        entityWork += piece.size() * countEntities(piece);
+        if (containers > kMostContainers || entityWork > kMostEntityWork)
+            return false;
+        at = next < bytes.size() ? next : bytes.npos;
     }
-    return count <= kMostContainers;
+    return true;
 }
 
 bool isBinaryWithinBounds(std::string_view bytes)

@@ -2,26 +2,61 @@
 
 #include "platform/systemlog.h"
 
+#include <QtCore/QResource>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QImage>
+
+#include <cstring>
 
 namespace {
 
+/// Two resolutions are made; anything finer than 1x is served by the finer one.
+int resolution()
+{
+    return qApp->devicePixelRatio() > 1.0 ? 2 : 1;
+}
+
 QString resourcePath(const char *name)
 {
-    // Two resolutions are made; anything finer than 1x is served by the finer one.
-    const bool fine = qApp->devicePixelRatio() > 1.0;
-    return QStringLiteral(":/skin/%1%2.png")
-        .arg(QLatin1String(name), fine ? QLatin1String("@2x") : QLatin1String());
+    const auto suffix = resolution() == 2 ? QLatin1String("@2x") : QLatin1String();
+    return QLatin1String(":/skin/") + QLatin1String(name) + suffix;
+}
+
+/// Pixels as the build packs them: width and height as 32-bit numbers, then 32 bits a pixel,
+/// premultiplied. A packed picture of another size is none.
+QImage unpacked(const QByteArray &packed)
+{
+    qint32 size[2] = {};
+    if (packed.size() < qsizetype(sizeof size))
+        return {};
+    std::memcpy(size, packed.constData(), sizeof size);
+    constexpr int bytesPerPixel = 4;
+    const qsizetype expected = qsizetype(size[0]) * size[1] * bytesPerPixel;
+    if (size[0] <= 0 || size[1] <= 0 || packed.size() != qsizetype(sizeof size) + expected)
+        return {};
+    // The image shares the bytes and lets them go with its last copy.
+    auto *const owner = new QByteArray(packed);
+    const auto *const pixels = reinterpret_cast<const uchar *>(owner->constData()) + sizeof size;
+    return {pixels,
+            size[0],
+            size[1],
+            size[0] * bytesPerPixel,
+            QImage::Format_ARGB32_Premultiplied,
+            [](void *bytes) { delete static_cast<QByteArray *>(bytes); },
+            owner};
 }
 
 } // namespace
 
 SkinImage SkinImage::named(const char *name)
 {
-    QPixmap pixmap(resourcePath(name));
-    if (pixmap.isNull())
+    QImage image = unpacked(QResource(resourcePath(name)).uncompressedData());
+    if (image.isNull()) {
         systemLog("no skin image %s", name);
-    return SkinImage(std::move(pixmap));
+        return {};
+    }
+    image.setDevicePixelRatio(resolution());
+    return SkinImage(QPixmap::fromImage(std::move(image)));
 }
 
 SkinImage SkinImage::CopyImagefromrect(const SkinImage &source, UpRect srcRect)

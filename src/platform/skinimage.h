@@ -14,6 +14,8 @@ public:
     /// The picture of that name among the program's resources, at the resolution of the screen.
     /// An unknown name is logged and gives no picture.
     static SkinImage named(const char *name);
+    /// A picture made by the program itself.
+    static SkinImage of(const QPixmap &pixmap) { return SkinImage(pixmap); }
 
     bool isNull() const { return m_pixmap.isNull(); }
     /// Size in points.
