@@ -35,7 +35,7 @@ std::optional<std::string_view> GetSubString(unsigned &cursor, std::string_view 
     if (cursor >= srcString.size())
         return {};
     const auto comma = srcString.find(',', cursor);
-    if (comma == srcString.npos)
+    if (comma == std::string_view::npos)
         return {};
     const auto token = srcString.substr(cursor, comma - cursor);
     cursor = static_cast<unsigned>(comma + 1);
@@ -55,7 +55,7 @@ void readEventList(std::string_view text, std::span<KeymapEvent> events)
 
 std::string allEventsText(std::span<const KeymapEvent> events)
 {
-    // One buffer of the greatest length: a full list is 1500 numbers, and a file may hold 500 lists.
+    // One buffer of the greatest length: a file may hold 500 lists of 1500 numbers.
     std::string text(events.size() * 3 * kLongestNumber, '\0');
     char *place = text.data();
     for (const KeymapEvent &event : events) {

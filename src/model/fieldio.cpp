@@ -52,7 +52,7 @@ std::string numberedKey(const char *key, unsigned number)
 {
     std::string result(key);
     const auto place = result.find("%d");
-    return place == result.npos ? result : result.replace(place, 2, std::to_string(number));
+    return place == std::string::npos ? result : result.replace(place, 2, std::to_string(number));
 }
 
 void readFields(std::span<const Field> fields, plist::Dictionary from, void *record)

@@ -25,14 +25,16 @@ std::size_t findNonCharacter(std::string_view text)
 bool isStorable(std::string_view text)
 {
     return QByteArrayView(text.data(), static_cast<qsizetype>(text.size())).isValidUtf8() &&
-           std::ranges::none_of(text, isForbiddenControl) && findNonCharacter(text) == text.npos;
+           std::ranges::none_of(text, isForbiddenControl) &&
+           findNonCharacter(text) == std::string_view::npos;
 }
 
 std::string repaired(std::string_view text)
 {
     const auto size = static_cast<qsizetype>(text.size());
     std::string utf8 = QString::fromUtf8(text.data(), size).toStdString();
-    for (std::size_t at = findNonCharacter(utf8); at != utf8.npos; at = findNonCharacter(utf8))
+    for (std::size_t at = findNonCharacter(utf8); at != std::string::npos;
+         at = findNonCharacter(utf8))
         utf8.replace(at, 3, kReplacement);
     std::string result;
     for (const char c : utf8)

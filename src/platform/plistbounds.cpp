@@ -148,7 +148,7 @@ bool opensContainer(std::string_view tag)
 std::size_t countEntities(std::string_view text)
 {
     std::size_t count = 0;
-    for (auto at = text.find('&'); at != text.npos; at = text.find('&', at + 1))
+    for (auto at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 1))
         ++count;
     return count;
 }
@@ -164,14 +164,14 @@ bool isXmlWithinBounds(std::string_view bytes)
 {
     std::size_t containers = 0;
     std::size_t entityWork = 0;
-    for (auto at = bytes.find('<'); at != bytes.npos;) {
+    for (auto at = bytes.find('<'); at != std::string_view::npos;) {
         const auto next = std::min(bytes.find('<', at + 1), bytes.size());
         const auto piece = bytes.substr(at + 1, next - at - 1);
         containers += opensContainer(piece);
         entityWork += piece.size() * countEntities(piece);
         if (containers > kMostContainers || entityWork > kMostEntityWork)
             return false;
-        at = next < bytes.size() ? next : bytes.npos;
+        at = next < bytes.size() ? next : std::string_view::npos;
     }
     return true;
 }

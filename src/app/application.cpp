@@ -1,0 +1,24 @@
+#include "app/application.h"
+
+#include "app/interface.h"
+#include "app/KyrGMAppDelegate.h"
+#include "platform/desktop.h"
+#include "platform/notificationcenter.h"
+
+#include <QtWidgets/QApplication>
+
+int runKyrGM(int argc, char **argv, const std::string &settingsPath)
+{
+    preferPlacedWindows();
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("KyrGM"));
+
+    const auto notifications = NotificationCenter::distributed();
+    // Not quit(): that asks the windows to close first, and to the main window closing means to
+    // commit, which Cancel must not do.
+    const Interface interface({settingsPath, notifications.get(), [] { QCoreApplication::exit(); }});
+    KyrGMAppDelegate delegate;
+    delegate.setWindow(&interface.mainWindow());
+    delegate.applicationDidFinishLaunching();
+    return QApplication::exec();
+}

@@ -1,0 +1,218 @@
+"""A private stage for the programs: an X server with a window manager, a message bus and a folder
+for the settings, all gone afterwards. What happens on it comes from real pointer and key events."""
+
+import contextlib
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+MAIN_TITLE = "Kyr Torvane MMO Gaming Mouse"
+LIST_TITLE = "Button Functions"
+VIEW_HEIGHT = 640
+ROW_HEIGHT = 20
+
+
+def control_rectangles():
+    """The main view's controls by name, as (x, y, width, height), y upwards, from its own table."""
+    table = (ROOT / "src/mainview/controltable.h").read_text()
+    rows = re.findall(r'"(\w+)", ControlKind::\w+, \{(\d+), (\d+), (\d+), (\d+)\}', table)
+    return {name: tuple(map(int, box)) for name, *box in rows}
+
+
+CONTROLS = control_rectangles()
+
+
+def wait_for(condition, what, seconds=20):
+    """Waits until the condition gives something true, and gives that."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        result = condition()
+        if result:
+            return result
+        time.sleep(0.01)
+    raise AssertionError(f"waited {seconds} s in vain: {what}")
+
+
+class Program:
+    """A running program whose lines on standard error are kept."""
+
+    def __init__(self, command, environment):
+        self.log = tempfile.NamedTemporaryFile("w+", prefix="kyr-log-")
+        self.process = subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL,
+                                        stdout=self.log, stderr=subprocess.STDOUT)
+
+    def lines(self):
+        return pathlib.Path(self.log.name).read_text(errors="replace").splitlines()
+
+    def wait_for_line(self, text):
+        def found():
+            assert text in "\n".join(self.lines()) or self.process.poll() is None, \
+                f"ended without saying {text!r}: {self.lines()}"
+            return next((line for line in self.lines() if text in line), None)
+        return wait_for(found, f"the line {text!r} in {self.lines()}")
+
+    def wait_for_end(self):
+        return self.process.wait(timeout=20)
+
+    def stop(self):
+        if self.process.poll() is None:
+            self.process.terminate()
+        with contextlib.suppress(subprocess.TimeoutExpired):
+            self.process.wait(timeout=10)
+        self.process.kill()
+        self.process.wait()
+        self.log.close()
+
+
+class Stage:
+    """Everything that the programs need around them."""
+
+    def __init__(self, settings=None, size="1280x1024"):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="kyr-stage-"))
+        self.settings = pathlib.Path(settings or self.folder / "KT7R4Setting.xml")
+        self.programs = []
+        self.environment = self.clean_environment()
+        try:
+            self.start_display(size)
+            self.start_bus()
+            self.start_window_manager()
+        except BaseException:
+            self.close()
+            raise
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def clean_environment(self):
+        keep = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS",
+                                                    "UBSAN_OPTIONS") if name in os.environ}
+        runtime = self.folder / "runtime"
+        runtime.mkdir(mode=0o700)
+        return keep | {"HOME": str(self.folder), "XDG_RUNTIME_DIR": str(runtime),
+                       "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "xcb"}
+
+    def start_display(self, size):
+        read, write = os.pipe()
+        server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
+             "-noreset"], pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(write)
+        self.add_process(server)
+        with os.fdopen(read) as pipe:
+            number = pipe.readline().strip()
+        assert number, "the virtual X server did not start"
+        self.environment["DISPLAY"] = f":{number}"
+
+    def start_bus(self):
+        bus = subprocess.Popen(
+            ["dbus-daemon", "--session", "--nofork", "--print-address=1"],
+            env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        self.add_process(bus)
+        with bus.stdout as pipe:
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = pipe.readline().strip()
+
+    def start_window_manager(self):
+        self.add_process(subprocess.Popen(["openbox"], env=self.environment,
+                                          stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        wait_for(lambda: "window id" in self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
+                 "the window manager")
+
+    def add_process(self, process):
+        self.programs.append(process)
+
+    def start(self, *command):
+        program = Program([str(part) for part in command], self.environment)
+        self.programs.append(program)
+        return program
+
+    def close(self):
+        for program in reversed(self.programs):
+            if isinstance(program, Program):
+                program.stop()
+            else:
+                program.terminate()
+                program.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def output(self, *command):
+        return subprocess.run(command, env=self.environment, capture_output=True,
+                              text=True).stdout
+
+    def screenshot(self, path, box=None):
+        area = ["-a", ",".join(map(str, box))] if box else []
+        subprocess.run(["scrot", "-o", *area, str(path)], env=self.environment, check=True,
+                       capture_output=True)
+
+    def pixels(self, box):
+        """The bytes of a part of the screen, to tell whether it changed."""
+        path = self.folder / "pixels.png"
+        self.screenshot(path, box)
+        return path.read_bytes()
+
+    # Windows and input
+
+    def window(self, title):
+        """The id of the visible window with that title, or nothing."""
+        ids = self.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
+        return ids[0] if ids else None
+
+    def wait_for_window(self, title):
+        return wait_for(lambda: self.window(title), f"the window {title!r}")
+
+    def wait_for_no_window(self, title):
+        wait_for(lambda: not self.window(title), f"the end of the window {title!r}")
+
+    def frame(self, title):
+        """The window's (x, y, width, height) on the screen, y downwards."""
+        text = self.output("xdotool", "getwindowgeometry", "--shell", self.wait_for_window(title))
+        values = dict(line.split("=") for line in text.split())
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def active_title(self):
+        return self.output("xdotool", "getactivewindow", "getwindowname").strip()
+
+    def wait_for_active(self, title):
+        wait_for(lambda: self.active_title() == title, f"{title!r} as the active window")
+
+    def move_to(self, x, y):
+        self.output("xdotool", "mousemove", "--sync", str(x), str(y))
+
+    def click(self, x, y, button=1):
+        self.move_to(x, y)
+        self.output("xdotool", "click", str(button))
+
+    def drag(self, start, end):
+        """Presses at one point, moves in small steps to the other, releases."""
+        self.move_to(*start)
+        self.output("xdotool", "mousedown", "1")
+        steps = 12
+        for step in range(1, steps + 1):
+            self.move_to(*(s + (e - s) * step // steps for s, e in zip(start, end)))
+        self.output("xdotool", "mouseup", "1")
+
+    def key(self, name):
+        self.output("xdotool", "key", name)
+
+    # The main window
+
+    def control_box(self, name):
+        """A control's (x, y, width, height) on the screen, y downwards."""
+        left, top, _, _ = self.frame(MAIN_TITLE)
+        x, y, width, height = CONTROLS[name]
+        return left + x, top + VIEW_HEIGHT - y - height, width, height
+
+    def click_control(self, name, button=1):
+        x, y, width, height = self.control_box(name)
+        self.click(x + width // 2, y + height // 2, button)
+
+    def click_list_row(self, row):
+        x, y, width, _ = self.frame(LIST_TITLE)
+        self.click(x + width // 2, y + row * ROW_HEIGHT + ROW_HEIGHT // 2)
