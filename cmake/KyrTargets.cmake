@@ -1,5 +1,8 @@
 # The one set of flags and the few functions that every target of the project is made with.
 
+# The meta-object compiler reads headers only: it need not wait for other libraries.
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
+
 add_library(kyr_flags INTERFACE)
 target_include_directories(kyr_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(kyr_flags INTERFACE

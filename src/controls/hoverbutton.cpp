@@ -97,8 +97,8 @@ void HoverButton::drawRect(Canvas &canvas)
         colour.setAlphaF(kDisabledCaption);
     canvas.drawLine(m_caption, captionRect(canvas.bounds()), colour, TextAlign::Centre,
                     kCaptionSize);
-    if (hasFocus())
-        canvas.outline({1, 1, width() - 2, height() - 2}, kWhite);
+    if (hasFocus() && m_showsFocus)
+        canvas.outline(canvas.bounds(), kGold);
 }
 
 void HoverButton::rightMouseDown(const ViewMouseEvent &event)
@@ -108,6 +108,16 @@ void HoverButton::rightMouseDown(const ViewMouseEvent &event)
         RightAction.send(this);
     if (alive)
         ViewOf::rightMouseDown(event);
+}
+
+void HoverButton::focusInEvent(QFocusEvent *event)
+{
+    // A window that becomes active hands the focus to some control; only a player who moves it by
+    // key wants to see where it is.
+    if (event->reason() != Qt::ActiveWindowFocusReason)
+        m_showsFocus =
+            event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    ViewOf::focusInEvent(event);
 }
 
 void HoverButton::contextMenuEvent(QContextMenuEvent *event)

@@ -46,6 +46,7 @@ public:
 protected:
     void drawRect(Canvas &canvas) override;
     void rightMouseDown(const ViewMouseEvent &event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
@@ -69,6 +70,7 @@ private:
     Action<HoverButton *> m_action;
     Action<HoverButton *> RightAction;
     Action<HoverButton *> GetDragAction;
+    bool m_showsFocus = false; ///< the keyboard was brought here by the keyboard
     bool bCanDragDrop = false;
     bool m_bEnableDisable = false; ///< true = disabled
     int m_DropIndex = 0;

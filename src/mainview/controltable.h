@@ -61,13 +61,13 @@ inline constexpr int kLastProfileTag = 0x101D;
 
 struct ControlRow
 {
-    ControlId id;
-    const char *name; ///< the control's object name
-    ControlKind kind;
+    ControlId id = {};
+    const char *name = ""; ///< the control's object name
+    ControlKind kind = {};
     UpRect frame;
-    int tag;
-    const char *caption;     ///< written on it; empty where the skin or the profile says it
-    const char *description; ///< what it is called for assistive technology
+    int tag = 0;
+    const char *caption = "";     ///< written on it; empty where the skin or the profile says it
+    const char *description = ""; ///< what it is called for assistive technology
 };
 
 // clang-format off

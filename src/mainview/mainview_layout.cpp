@@ -13,10 +13,10 @@ namespace {
 
 struct Label
 {
-    const char *text;
+    const char *text = "";
     UpRect rect;
-    TextAlign align;
-    int size;
+    TextAlign align = TextAlign::Left;
+    int size = 0;
 };
 
 constexpr Label kLabels[] = {

@@ -1,5 +1,6 @@
 #include "platform/desktop.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QtGlobal>
 
 void preferPlacedWindows()

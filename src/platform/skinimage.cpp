@@ -30,8 +30,8 @@ QImage unpacked(const QByteArray &packed)
     if (packed.size() < qsizetype(sizeof size))
         return {};
     std::memcpy(size, packed.constData(), sizeof size);
-    constexpr int bytesPerPixel = 4;
-    const qsizetype expected = qsizetype(size[0]) * size[1] * bytesPerPixel;
+    constexpr qsizetype bytesPerPixel = 4;
+    const qsizetype expected = size[0] * bytesPerPixel * size[1];
     if (size[0] <= 0 || size[1] <= 0 || packed.size() != qsizetype(sizeof size) + expected)
         return {};
     // The image shares the bytes and lets them go with its last copy.

@@ -12,8 +12,8 @@ struct ViewMouseEvent
 {
     UpPoint position;       ///< in the view; y is the view's height at its top edge
     UpPoint windowPosition; ///< in the view's window
-    int clickCount;         ///< 2 for the second press of a double click
-    QMouseEvent *event;
+    int clickCount = 1;     ///< 2 for the second press of a double click
+    QMouseEvent *event = nullptr;
 };
 
 /// What a window or view is placed in: its parent view, or for a window the screens, whose origin
