@@ -1,0 +1,43 @@
+#include "platform/notificationcenter_dbus.h"
+#include "support/privatebus.h"
+
+#include <QtTest/QtTest>
+
+/// A program may post and end at once, as the utility does when it is closed.
+class TestPostAndExit : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatIsPostedLeavesAProgramThatEndsAtOnce();
+};
+
+void TestPostAndExit::whatIsPostedLeavesAProgramThatEndsAtOnce()
+{
+    constexpr int runs = 50;
+    const PrivateBus bus;
+    DBusNotificationCenter center(bus.connection(QStringLiteral("receiver")));
+    QList<int> received;
+    center.addObserver(QStringLiteral("name"), QStringLiteral("object"),
+                       [&received](const QVariantMap &userInfo) {
+                           received.append(userInfo.value(QStringLiteral("number")).toInt());
+                       });
+    QList<int> posted;
+    for (int number = 1; number <= runs; ++number) {
+        QProcess program;
+        program.setProcessEnvironment(bus.environment());
+        program.start(QStringLiteral(POSTANDEXIT), {QString::number(number)});
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitCode(), 0);
+        posted.append(number);
+    }
+    // Posted last by this process itself: when it is here, so is all that came before.
+    DBusNotificationCenter(bus.connection(QStringLiteral("sender")))
+        .post(QStringLiteral("name"), QStringLiteral("object"), {{QStringLiteral("number"), 0}});
+    QTRY_VERIFY(received.contains(0));
+    posted.append(0);
+    QCOMPARE(received, posted);
+}
+
+QTEST_GUILESS_MAIN(TestPostAndExit)
+#include "tst_postandexit.moc"

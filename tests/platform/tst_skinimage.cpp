@@ -1,0 +1,82 @@
+#include "support/logcapture.h"
+#include "support/pictures.h"
+
+#include <QtTest/QTest>
+
+/// Pictures of the skin.
+class tst_skinimage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aPartIsCutOutUpwards();
+    void whatLiesOutsideThePictureIsTransparent();
+    void aPartOfNothingIsNothing();
+    void aPartKeepsTheResolution();
+    void anUnknownNameIsLoggedAndGivesNothing();
+    void everyPictureHasItsSize_data();
+    void everyPictureHasItsSize();
+};
+
+void tst_skinimage::aPartIsCutOutUpwards()
+{
+    const QRect mark(10, 70, 30, 20); // from 10 to 30 above the lower edge
+    const SkinImage source = markedPicture({100, 100}, Qt::blue, mark, Qt::red);
+    const SkinImage exact = SkinImage::CopyImagefromrect(source, {10, 10, 30, 20});
+    QCOMPARE(exact.size(), QSize(30, 20));
+    QCOMPARE(extentOf(exact.pixmap().toImage(), Qt::red), QRect(0, 0, 30, 20));
+    const SkinImage larger = SkinImage::CopyImagefromrect(source, {5, 5, 40, 40});
+    QCOMPARE(extentOf(larger.pixmap().toImage(), Qt::red), QRect(5, 15, 30, 20));
+}
+
+void tst_skinimage::whatLiesOutsideThePictureIsTransparent()
+{
+    const SkinImage source = plainPicture({10, 10}, Qt::red);
+    const SkinImage part = SkinImage::CopyImagefromrect(source, {5, 5, 10, 10});
+    QCOMPARE(part.size(), QSize(10, 10));
+    const QImage picture = part.pixmap().toImage();
+    QCOMPARE(extentOf(picture, Qt::red), QRect(0, 5, 5, 5));
+    QCOMPARE(picture.pixelColor(9, 0).alpha(), 0);
+}
+
+void tst_skinimage::aPartOfNothingIsNothing()
+{
+    QVERIFY(SkinImage::CopyImagefromrect({}, {0, 0, 10, 10}).isNull());
+}
+
+void tst_skinimage::aPartKeepsTheResolution()
+{
+    QPixmap fine(200, 200);
+    fine.fill(Qt::blue);
+    QPainter(&fine).fillRect(0, 180, 20, 20, Qt::red);
+    fine.setDevicePixelRatio(2.0);
+    const SkinImage source = SkinImage::of(fine);
+    QCOMPARE(source.size(), QSize(100, 100));
+    const SkinImage part = SkinImage::CopyImagefromrect(source, {0, 0, 10, 10});
+    QCOMPARE(part.size(), QSize(10, 10));
+    QCOMPARE(extentOf(part.pixmap().toImage(), Qt::red), QRect(0, 0, 20, 20));
+}
+
+void tst_skinimage::anUnknownNameIsLoggedAndGivesNothing()
+{
+    const LogCapture log;
+    QVERIFY(SkinImage::named("nosuchpicture").isNull());
+    QCOMPARE(log.lines, std::vector<std::string>{"no skin image nosuchpicture"});
+}
+
+void tst_skinimage::everyPictureHasItsSize_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const char *name : {"mainbk", "mainO", "mainD", "mainDis"})
+        QTest::newRow(name) << QSize(654, 640);
+    for (const char *name : {"Pop_UP_normal", "Pop_UP_over", "Pop_UP_down"})
+        QTest::newRow(name) << QSize(256, 74);
+}
+
+void tst_skinimage::everyPictureHasItsSize()
+{
+    QTEST(SkinImage::named(QTest::currentDataTag()).size(), "size");
+}
+
+QTEST_MAIN(tst_skinimage)
+#include "tst_skinimage.moc"
