@@ -1,0 +1,33 @@
+#pragma once
+
+#include "support/logcapture.h"
+#include "support/testsettings.h"
+
+#include <cstring>
+
+/// A store with a private settings file, its log lines taken.
+struct StoreFixture
+{
+    StoreFixture() { store.setConfigfileName(settings.path()); }
+
+    /// Loads `bytes` into a record full of something else, so that what is not read shows.
+    void load(const QByteArray &bytes)
+    {
+        settings.put(bytes);
+        load();
+    }
+    void load()
+    {
+        std::memset(&m_Config, 0xA5, sizeof m_Config);
+        store.LoadConfigFile();
+    }
+
+    TestSettings settings;
+    LogCapture log;
+    xmlconfig store;
+};
+
+inline bool sameRecord(const ConfigData &a, const ConfigData &b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
