@@ -22,14 +22,35 @@ function(kyr_room name)
     target_link_libraries(kyr_${name} PUBLIC kyr_flags ${ROOM_LINK})
 endfunction()
 
-# Qt's headers are most of what a source file compiles. The first widget room compiles them once;
-# the others, made with the very same flags, share the result.
-function(kyr_share_headers target)
-    target_link_libraries(${target} PUBLIC Qt6::Widgets Qt6::DBus)
-    if(target STREQUAL "kyr_view")
-        target_precompile_headers(${target} PRIVATE <QtCore> <QtGui> <QtWidgets> <QtDBus>
-            <array> <functional> <optional> <string>)
-    else()
-        target_precompile_headers(${target} REUSE_FROM kyr_view)
+# Qt's headers are most of what a source file compiles. kyr_share_headers(TARGET GROUP) lets the
+# targets of a group (view, test, core) share the headers that most of them include, compiled once:
+# by the first target of the group, with the flags that all of them have.
+set(kyr_headers_core
+    <array> <functional> <memory> <optional> <string> <vector>
+    <QtCore/QByteArray> <QtCore/QObject> <QtCore/QString> <QtCore/QVariantMap>
+    <QtDBus/QDBusConnection> <QtDBus/QDBusMessage>)
+set(kyr_headers_view
+    ${kyr_headers_core} <QtGui/QKeyEvent> <QtGui/QMouseEvent> <QtGui/QPainter> <QtGui/QPixmap>
+    <QtWidgets/QAbstractButton> <QtWidgets/QApplication> <QtWidgets/QWidget>)
+set(kyr_headers_test ${kyr_headers_view} <QtTest/QtTest>)
+# The test library's own target defines a macro that differs from folder to folder, with which no
+# two folders could share headers.
+add_library(kyr_qttest INTERFACE)
+target_include_directories(kyr_qttest SYSTEM INTERFACE
+    $<TARGET_PROPERTY:Qt6::Test,INTERFACE_INCLUDE_DIRECTORIES>)
+target_link_libraries(kyr_qttest INTERFACE $<TARGET_LINKER_FILE:Qt6::Test>)
+set(kyr_modules_core Qt6::DBus)
+set(kyr_modules_view Qt6::DBus Qt6::Widgets)
+set(kyr_modules_test Qt6::DBus Qt6::Widgets kyr_qttest)
+
+function(kyr_share_headers target group)
+    set(owner kyr_headers_of_${group})
+    if(NOT TARGET ${owner})
+        file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/${owner}.cpp CONTENT "")
+        add_library(${owner} OBJECT ${CMAKE_BINARY_DIR}/${owner}.cpp)
+        target_link_libraries(${owner} PRIVATE kyr_flags ${kyr_modules_${group}})
+        target_precompile_headers(${owner} PRIVATE ${kyr_headers_${group}})
     endif()
+    target_link_libraries(${target} PRIVATE ${kyr_modules_${group}})
+    target_precompile_headers(${target} REUSE_FROM ${owner})
 endfunction()

@@ -48,10 +48,11 @@ void MainView::setCheckButton(HoverButton *button, int buttonid)
 
 HoverButton *MainView::GetButtonHandle(int id) const
 {
+    const bool isMouseButton = id >= 0 && id < static_cast<int>(kButtonCount);
     const bool isProfile = id >= kFirstProfileTag && id <= kLastProfileTag;
-    const int tag = isProfile ? id : kFirstButtonTag + id;
-    if (!isProfile && (id < 0 || tag > kLastButtonTag))
+    if (!isMouseButton && !isProfile)
         return nullptr;
+    const int tag = isProfile ? id : kFirstButtonTag + id;
     const auto *const row = std::ranges::find(kControlTable, tag, &ControlRow::tag);
     return button(row->id);
 }
@@ -142,10 +143,11 @@ void MainView::CloseButtonListBox(QWidget * /*sender*/)
     if (!bListboxPresent)
         return;
     systemLog("CloseListBox");
-    if (pListbox) {
+    if (pListbox)
         pListboxView->observeWindowKeyChangeStop();
-        pListbox->close();
-    }
-    bListboxPresent = false;
+    // While the list still stands: without it no window of the program would have the keyboard.
     makeKeyWindow(*window());
+    if (pListbox)
+        pListbox->close();
+    bListboxPresent = false;
 }

@@ -4,8 +4,6 @@
 #include "platform/files.h"
 #include "platform/systemlog.h"
 
-#include <filesystem>
-
 std::string pConfigFileName;
 
 namespace {
@@ -95,11 +93,11 @@ void xmlconfig::buildProfile(std::uint32_t index)
 
 bool xmlconfig::keepUnreadableFile()
 {
-    // It may be gone since: then there is nothing to keep.
-    if (!bUnreadableFile ||
-        !std::filesystem::exists(std::filesystem::symlink_status(pConfigFileName)))
+    // It may be gone since: then there is nothing to keep, now and later.
+    bUnreadableFile = bUnreadableFile && isPresent(pConfigFileName);
+    if (!bUnreadableFile)
         return true;
-    const auto kept = moveAside(pConfigFileName, ".unreadable");
+    const auto kept = keepBeside(pConfigFileName, ".unreadable");
     if (!kept)
         return false;
     bUnreadableFile = false;

@@ -85,12 +85,6 @@ bool fillTemporary(int number, std::string_view bytes, mode_t permissions)
            descriptor.close();
 }
 
-bool isTaken(const std::string &path)
-{
-    struct stat any = {};
-    return ::lstat(path.c_str(), &any) == 0 || errno != ENOENT;
-}
-
 } // namespace
 
 ReadStatus readFile(const std::string &path, std::size_t most, std::string &bytes)
@@ -126,16 +120,23 @@ bool writeFileAtomically(const std::string &path, std::string_view bytes)
     return true;
 }
 
-std::optional<std::string> moveAside(const std::string &path, const std::string &suffix)
+bool isPresent(const std::string &path)
 {
-    std::string aside = path + suffix;
-    for (int number = 2; isTaken(aside); ++number) {
+    struct stat any = {};
+    return ::lstat(path.c_str(), &any) == 0 || (errno != ENOENT && errno != ENOTDIR);
+}
+
+std::optional<std::string> keepBeside(const std::string &path, const std::string &suffix)
+{
+    std::string beside = path + suffix;
+    for (int number = 2; isPresent(beside); ++number) {
         constexpr int mostNames = 1000;
         if (number > mostNames)
             return {};
-        aside = path + suffix + '.' + std::to_string(number);
+        beside = path + suffix + '.' + std::to_string(number);
     }
-    if (std::rename(path.c_str(), aside.c_str()) != 0)
+    if (::link(path.c_str(), beside.c_str()) != 0 &&
+        std::rename(path.c_str(), beside.c_str()) != 0)
         return {};
-    return aside;
+    return beside;
 }

@@ -20,6 +20,11 @@ ReadStatus readFile(const std::string &path, std::size_t most, std::string &byte
 /// 0644. On failure false: the old file stands as it was and no temporary file is left.
 bool writeFileAtomically(const std::string &path, std::string_view bytes);
 
-/// Moves what is at `path` to `path` + `suffix`, or to that with ".2", ".3", ... added while the
-/// name is taken. The new path; nothing when it cannot be moved.
-std::optional<std::string> moveAside(const std::string &path, const std::string &suffix);
+/// Whether anything is at `path`; true also where that cannot be told.
+bool isPresent(const std::string &path);
+
+/// Keeps what is at `path` under `path` + `suffix` too, or under that with ".2", ".3", ... added
+/// while the name is taken: as a second name of the same file, so that `path` is not empty for a
+/// moment, or, where that cannot be (a folder), by moving it there. The name; nothing when neither
+/// works.
+std::optional<std::string> keepBeside(const std::string &path, const std::string &suffix);

@@ -5,6 +5,7 @@
 #include <QtCore/QResource>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QImage>
+#include <QtGui/QPainter>
 
 #include <cstring>
 
@@ -65,8 +66,14 @@ SkinImage SkinImage::CopyImagefromrect(const SkinImage &source, UpRect srcRect)
         return {};
     const qreal scale = source.m_pixmap.devicePixelRatio();
     const QRect part = UpHost(source.size().height()).down(srcRect);
-    QPixmap copy = source.m_pixmap.copy(
-        QRectF(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale).toRect());
+    const QRectF pixels(QPointF(part.topLeft()) * scale, QSizeF(part.size()) * scale);
+    // QPixmap::copy() would cut off what lies outside the source.
+    QPixmap copy(pixels.size().toSize());
+    copy.fill(Qt::transparent);
+    QPainter painter(&copy);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawPixmap(QRectF({}, pixels.size()), source.m_pixmap, pixels);
+    painter.end();
     copy.setDevicePixelRatio(scale);
     return SkinImage(std::move(copy));
 }
