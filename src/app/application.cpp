@@ -16,7 +16,8 @@ int runKyrGM(int argc, char **argv, const std::string &settingsPath)
     const auto notifications = NotificationCenter::distributed();
     // Not quit(): that asks the windows to close first, and to the main window closing means to
     // commit, which Cancel must not do.
-    const Interface interface({settingsPath, notifications.get(), [] { QCoreApplication::exit(); }});
+    const Interface interface(
+        {settingsPath, notifications.get(), [] { QCoreApplication::exit(); }});
     KyrGMAppDelegate delegate;
     delegate.setWindow(&interface.mainWindow());
     delegate.applicationDidFinishLaunching();

@@ -21,9 +21,17 @@ custumwindow::custumwindow(UpRect contentRect, QWidget *owner)
 
 void custumwindow::setContentView(View *view)
 {
+    m_contentView = view;
     view->setParent(this);
     view->setFrame({0, 0, width(), height()});
     view->show();
+}
+
+void custumwindow::resizeEvent(QResizeEvent *event)
+{
+    View::resizeEvent(event);
+    if (m_contentView)
+        m_contentView->setFrame({0, 0, width(), height()});
 }
 
 void custumwindow::center()

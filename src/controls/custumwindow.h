@@ -18,7 +18,7 @@ public:
     /// switcher.
     custumwindow(UpRect contentRect, QWidget *owner);
 
-    /// Fills the window with `view`, which the window then owns.
+    /// Fills the window with `view`, at every size; the window then owns it.
     void setContentView(View *view);
 
     bool bCanDragWindow() const { return m_bCanDragWindow; }
@@ -35,11 +35,13 @@ public:
 protected:
     void mouseDown(const ViewMouseEvent &event) override;
     void mouseDragged(const ViewMouseEvent &event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
     UpRect visibleFrame() const;
 
+    QPointer<View> m_contentView;
     bool m_bCanDragWindow = false;
     UpPoint m_initialLocation; ///< of the pointer in the window at the last press
     Action<> m_closeRequest;

@@ -13,6 +13,13 @@ constexpr int kCaptionSize = 10;
 constexpr int kCaptionMargin = 4;
 constexpr float kDisabledCaption = 0.55F;
 
+/// A caption may hold anything, also what looks like markup: it is shown as it stands.
+QString asOneLine(const QString &text)
+{
+    return QStringLiteral("<p style='white-space:pre'>") + text.toHtmlEscaped() +
+           QStringLiteral("</p>");
+}
+
 UpRect captionRect(UpRect bounds)
 {
     return {kCaptionMargin, 0, bounds.width - 2 * kCaptionMargin, bounds.height};
@@ -142,7 +149,7 @@ void HoverButton::leaveEvent(QEvent *event)
 void HoverButton::dragEnterEvent(QDragEnterEvent *event)
 {
     if (m_bEnableDisable || !bCanDragDrop || event->source() == this ||
-        !event->mimeData()->hasText())
+        !event->mimeData()->hasFormat(QStringLiteral("text/plain")))
         return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
@@ -170,8 +177,8 @@ bool HoverButton::event(QEvent *event)
     // A caption that had to be cut is shown whole.
     const int space = captionRect({0, 0, width(), height()}).width;
     const bool cut = QFontMetrics(systemFont(kCaptionSize)).horizontalAdvance(m_caption) > space;
-    const QString plain = cut ? m_caption.toHtmlEscaped() : toolTip();
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plain, this);
+    const QString text = cut ? asOneLine(m_caption) : toolTip();
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text, this);
     return true;
 }
 

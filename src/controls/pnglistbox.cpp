@@ -41,18 +41,23 @@ int pngListBox::AddString(const QString &text)
 void pngListBox::setcursel(int row)
 {
     _currentpos = row;
+    setAccessibleDescription(stringAt(row));
     update();
 }
 
 void pngListBox::setTextColor(double red, double Green, double Blue)
 {
-    m_textColor = colourOf(red, Green, Blue);
+    _textColorR = red;
+    _textColorG = Green;
+    _textColorB = Blue;
     update();
 }
 
 void pngListBox::setForeColor(double red, double Green, double Blue)
 {
-    m_foreColor = colourOf(red, Green, Blue);
+    _foreColorR = red;
+    _foreColorG = Green;
+    _foreColorB = Blue;
     update();
 }
 
@@ -78,7 +83,8 @@ FunctionCode pngListBox::getfunctionid(int row) const
 {
     // The three lists stand for 16 and up, 32 and up, 256 and up.
     constexpr FunctionCode firstCode[] = {16, 32, 256};
-    Q_ASSERT(hasFunctions());
+    if (!hasFunctions())
+        return 0;
     return firstCode[_tag - kCpiListTag] + static_cast<FunctionCode>(row);
 }
 
@@ -91,6 +97,7 @@ void pngListBox::observeWindowKeyChangeStart(const Action<pngListBox *> &action)
 void pngListBox::observeWindowKeyChangeStop()
 {
     m_keyWatch.stop();
+    FocusChangeAction = {};
 }
 
 void pngListBox::windowKeyChange()
@@ -110,9 +117,10 @@ void pngListBox::drawRect(Canvas &canvas)
     for (int row = 0; row < getCount(); ++row) {
         UpRect place = strip(row);
         if (row == _currentpos)
-            canvas.fill(place, m_foreColor);
+            canvas.fill(place, colourOf(_foreColorR, _foreColorG, _foreColorB));
         place.height -= kTextInset;
-        canvas.DrawMyTextwithColor(pListArray[row], place, m_textColor, _textAlign, kTextSize);
+        canvas.drawLine(pListArray[row], place, colourOf(_textColorR, _textColorG, _textColorB),
+                        _textAlign, kTextSize);
     }
 }
 
@@ -127,7 +135,7 @@ void pngListBox::mouseDown(const ViewMouseEvent &event)
     const int fromTop = height() - event.position.y;
     const int row = fromTop / m_ItemHeight;
     if (fromTop >= 0 && row < getCount())
-        _currentpos = row;
+        setcursel(row);
     update();
 }
 

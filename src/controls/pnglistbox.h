@@ -32,7 +32,7 @@ public:
     void setcursel(int row);
     int getcursel() const { return _currentpos; }
 
-    /// Colours of the texts and of the selected row, 0..255 a component.
+    /// Colours of the texts and of the selected row, 0..255 a component; beyond that the nearest.
     void setTextColor(double red, double Green, double Blue);
     void setForeColor(double red, double Green, double Blue);
     void setTextAlign(TextAlign align);
@@ -48,7 +48,7 @@ public:
     int tag() const { return _tag; }
 
     /// The function that a row of the CPI, profile or macro list stands for. Lists with other tags
-    /// have none and must not be asked.
+    /// have none and must not be asked: they answer 0.
     FunctionCode getfunctionid(int row) const;
 
     /// Sends the action with the list when its window stops being the key window.
@@ -77,8 +77,12 @@ private:
     Action<pngListBox *> dbClickAction;
     int _currentpos = -1;
     TextAlign _textAlign = TextAlign::Centre;
-    QColor m_textColor{255, 255, 255};
-    QColor m_foreColor{41, 41, 41};
+    double _textColorR = 255;
+    double _textColorG = 255;
+    double _textColorB = 255;
+    double _foreColorR = 41;
+    double _foreColorG = 41;
+    double _foreColorB = 41;
     bool bEnableDragDrop = false;
     bool bEnableDBClick = false;
     int m_ItemHeight = 20;

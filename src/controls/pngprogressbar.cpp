@@ -10,7 +10,7 @@ pngProgressBar::pngProgressBar(QWidget *parent, UpRect frame) : ViewOf(parent)
     setFrame(frame);
     setFocusPolicy(Qt::TabFocus);
     updateSlider();
-    connect(this, &QAbstractSlider::actionTriggered, this, &pngProgressBar::takeSliderAction);
+    connect(this, &QAbstractSlider::valueChanged, this, &pngProgressBar::takeSliderValue);
 }
 
 void pngProgressBar::setBKImage(const SkinImage &image)
@@ -113,8 +113,13 @@ void pngProgressBar::wheelEvent(QWheelEvent *event)
         event->ignore();
 }
 
-void pngProgressBar::takeSliderAction()
+/// The toolkit changed the value by itself: by a key, the wheel, or for assistive technology.
+void pngProgressBar::takeSliderValue(int value)
 {
-    setPos(sliderPosition());
+    if (value == getPos())
+        return;
+    if (!bAllowMouseChangeFlag)
+        return updateSlider();
+    setPos(value);
     changeAction.send(this);
 }

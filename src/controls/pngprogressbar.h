@@ -39,7 +39,7 @@ private:
     bool isHorizontal() const { return _DirStyle == 1; }
     int uncovered(int length) const;
     void followPointer(UpPoint point);
-    void takeSliderAction();
+    void takeSliderValue(int value);
     void updateSlider();
 
     double _currentpos = 0;

@@ -16,6 +16,7 @@ PopupProgressBar::PopupProgressBar(QWidget *parent)
 {
     setFrame({0, 0, kWidth, kHeight});
     WriteToDeviceBar->setObjectName(QStringLiteral("WriteToDeviceBar"));
+    WriteToDeviceBar->setAccessibleName(QStringLiteral("Progress of the on-board write"));
     WriteToDeviceBar->setFrame(kBar);
     WriteToDeviceBar->setBKImage(SkinImage::CopyImagefromrect(BKImage, kBar));
     WriteToDeviceBar->setOverImage(

@@ -94,6 +94,7 @@ private:
     HoverButton *addHoverButton(const ControlRow &row, const Skin &skin);
     void addMemoryUsageBar(const ControlRow &row, const Skin &skin);
     HoverButton *button(ControlId id) const { return m_buttons[static_cast<std::size_t>(id)]; }
+    void progessbarAction(pngProgressBar *sender);
     void DrawProfileColorLine(Canvas &canvas, unsigned index);
 
     // Controller
@@ -109,6 +110,7 @@ private:
     void observeDriver();
     void profileChanged(std::int32_t number);
     void WriteToFWChanged(std::int32_t position);
+    void closeWriteDeviceBar();
     void GetFWNumber(std::int32_t number);
     void GetLiftDistance(std::int32_t code);
 
@@ -118,6 +120,7 @@ private:
     void assign(HoverButton *button, FunctionCode code);
     void DisplayButtonListBox(int buttonid);
     void ButtonListboxAction(pngListBox *sender);
+    void closeChosenList(QPointer<custumwindow> list);
     void CloseButtonListBox(QWidget *sender);
 
     Environment m_environment;

@@ -107,7 +107,7 @@ void MainView::DisplayButtonListBox(int buttonid)
     pListbox = new custumwindow({below.x, below.y, frame.width, kQuickListHeight}, window());
     pListbox->setAttribute(Qt::WA_DeleteOnClose);
     pListbox->setObjectName(QStringLiteral("pListbox"));
-    pListbox->setWindowTitle(QStringLiteral("Button Functions"));
+    pListbox->setWindowTitle(QStringLiteral("Basic Functions"));
     pListboxView = new pngListBox(pListbox);
     pListboxView->setObjectName(QStringLiteral("pListboxView"));
     pListboxView->setTag(kQuickListTag);
@@ -132,10 +132,17 @@ void MainView::ButtonListboxAction(pngListBox *sender)
             CurrentProfile().BUTTON[m_curButtonID] = kQuickRows[row].code;
         }
         // Later: the list is still handling the click that brought us here.
-        performDeferred(this, &MainView::CloseButtonListBox, static_cast<QWidget *>(this));
+        performDeferred(this, &MainView::closeChosenList, pListbox);
     }
     setApplyButtonStatus(true);
     CalcMouseMemoryUsage();
+}
+
+void MainView::closeChosenList(QPointer<custumwindow> list)
+{
+    // By now another right click may have opened a new list, which stays.
+    if (list && list == pListbox)
+        CloseButtonListBox(this);
 }
 
 void MainView::CloseButtonListBox(QWidget * /*sender*/)

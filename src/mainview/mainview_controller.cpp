@@ -120,9 +120,10 @@ void MainView::DisplayWriteDeviceBar()
         pPopUpBarWindow->setWindowTitle(QStringLiteral("Applying profile to on-board memory..."));
         pPopUpBarView = new PopupProgressBar(pPopUpBarWindow);
         pPopUpBarWindow->setContentView(pPopUpBarView);
+        pPopUpBarWindow->setCloseRequest({this, &MainView::closeWriteDeviceBar});
     }
+    orderFront(*pPopUpBarWindow);
     if (!bDisplayWriteDeviceWindow)
         pPopUpBarWindow->center();
-    makeKeyAndOrderFront(*pPopUpBarWindow);
     bDisplayWriteDeviceWindow = true;
 }

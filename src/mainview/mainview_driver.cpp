@@ -61,8 +61,12 @@ void MainView::WriteToFWChanged(std::int32_t position)
     if (!bDisplayWriteDeviceWindow)
         return;
     pPopUpBarView->SetProgressPos(position);
-    if (position <= 99)
-        return;
+    if (position > 99)
+        closeWriteDeviceBar();
+}
+
+void MainView::closeWriteDeviceBar()
+{
     pPopUpBarWindow->hide();
     bDisplayWriteDeviceWindow = false;
 }

@@ -36,13 +36,13 @@ UpRect profileColorLine(unsigned index)
     return {frame.x + 2, frame.y - 10, frame.width - 4, 5};
 }
 
-/// A control without a command is not offered. The profile keys go on showing the current profile.
+/// A control without a command is not offered. The profile keys go on showing the current profile:
+/// without a disabled face they keep the one they have.
 void showUnavailable(HoverButton &button, ControlKind kind)
 {
-    button.setFocusPolicy(Qt::NoFocus);
-    button.setAttribute(Qt::WA_TransparentForMouseEvents);
-    if (kind == ControlKind::Push)
-        button.setDisable(true);
+    if (kind == ControlKind::Check)
+        button.setDisableImage({});
+    button.setDisable(true);
 }
 
 float colourComponent(std::uint32_t level)
@@ -113,7 +113,11 @@ void MainView::addMemoryUsageBar(const ControlRow &row, const Skin &skin)
     MSMemoryUsageBar->setOverImage(SkinImage::CopyImagefromrect(skin.BKOver, row.frame));
     MSMemoryUsageBar->setposRange(0, kFullMemory);
     MSMemoryUsageBar->setAllowMouseChangeFlag(false);
+    MSMemoryUsageBar->setChangeAction({this, &MainView::progessbarAction});
 }
+
+/// The gauge only shows: there is nothing that a change by the player could mean.
+void MainView::progessbarAction(pngProgressBar * /*sender*/) {}
 
 void MainView::drawRect(Canvas &canvas)
 {

@@ -36,8 +36,9 @@ public:
     ConfigRead ReadConfigFile();
 
     /// Writes the whole of m_Config to the file in one step. On failure logs "write fail!"; the
-    /// record is unchanged. A file that LoadConfigFile() found but could not read is first moved
-    /// aside, to the same name with ".unreadable", so that nothing of the user's is lost.
+    /// record is unchanged. A file that LoadConfigFile() found but could not read is first kept
+    /// beside, under the same name with ".unreadable", so that nothing of the user's is lost; when
+    /// that fails nothing is written.
     void WriteConfigFile();
 
     /// The defaults of a first start: global, sensor, lighting and button fields of all profiles.

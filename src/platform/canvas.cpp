@@ -30,6 +30,8 @@ QFont systemFont(int size)
 Canvas::Canvas(QWidget &view)
     : m_painter(&view), m_bounds{0, 0, view.width(), view.height()}, m_host(view.height())
 {
+    // Between whole scales pictures are resampled.
+    m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
 }
 
 void Canvas::clear()

@@ -135,8 +135,7 @@ std::optional<std::string> keepBeside(const std::string &path, const std::string
             return {};
         beside = path + suffix + '.' + std::to_string(number);
     }
-    if (::link(path.c_str(), beside.c_str()) != 0 &&
-        std::rename(path.c_str(), beside.c_str()) != 0)
+    if (::link(path.c_str(), beside.c_str()) != 0 && std::rename(path.c_str(), beside.c_str()) != 0)
         return {};
     return beside;
 }

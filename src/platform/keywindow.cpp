@@ -4,6 +4,13 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
+void orderFront(QWidget &window)
+{
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    window.show();
+    window.raise();
+}
+
 void makeKeyAndOrderFront(QWidget &window)
 {
     window.show();

@@ -7,6 +7,9 @@
 
 class QWidget;
 
+/// Shows `window` in front of the program's others; the keyboard stays where it is.
+void orderFront(QWidget &window);
+
 /// Brings `window` to the front and gives it the keyboard.
 void makeKeyAndOrderFront(QWidget &window);
 

@@ -14,30 +14,32 @@ std::string_view withoutLeadingBlanks(std::string_view text)
     return text;
 }
 
-std::int32_t digits(std::string_view text)
+/// The number of the digits that `text` begins with, at most `most`.
+std::int64_t digits(std::string_view text, std::int64_t most)
 {
     std::int64_t value = 0;
     for (const char c : text) {
         if (c < '0' || c > '9')
             break;
         value = value * 10 + (c - '0');
-        if (value > INT32_MAX)
-            return INT32_MAX;
+        if (value > most)
+            return most;
     }
-    return static_cast<std::int32_t>(value);
+    return value;
 }
 
 } // namespace
 
 std::int32_t leadingNumber(std::string_view text)
 {
-    return digits(withoutLeadingBlanks(text));
+    return static_cast<std::int32_t>(digits(withoutLeadingBlanks(text), INT32_MAX));
 }
 
 std::int32_t leadingInteger(std::string_view text)
 {
     const auto rest = withoutLeadingBlanks(text);
     if (rest.starts_with('-'))
-        return -digits(rest.substr(1));
-    return digits(rest.starts_with('+') ? rest.substr(1) : rest);
+        return static_cast<std::int32_t>(-digits(rest.substr(1), -std::int64_t{INT32_MIN}));
+    const auto unsignedPart = rest.starts_with('+') ? rest.substr(1) : rest;
+    return static_cast<std::int32_t>(digits(unsignedPart, INT32_MAX));
 }

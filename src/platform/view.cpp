@@ -20,7 +20,9 @@ UpPoint onScreen(const QWidget &view, UpPoint point)
 void placeChildren(const QWidget &view)
 {
     for (QObject *child : view.children()) {
-        if (auto *placed = dynamic_cast<Placed *>(child))
+        // A window among the children has its place on the screen.
+        const auto *const widget = qobject_cast<QWidget *>(child);
+        if (auto *placed = dynamic_cast<Placed *>(child); placed && !widget->isWindow())
             placed->place();
     }
 }

@@ -12,7 +12,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 MAIN_TITLE = "Kyr Torvane MMO Gaming Mouse"
-LIST_TITLE = "Button Functions"
+LIST_TITLE = "Basic Functions"
 VIEW_HEIGHT = 640
 ROW_HEIGHT = 20
 
