@@ -152,10 +152,11 @@ class Stage:
                        capture_output=True)
 
     def pixels(self, box):
-        """The bytes of a part of the screen, to tell whether it changed."""
-        path = self.folder / "pixels.png"
+        """The colours of a part of the screen, to tell whether it changed."""
+        path = self.folder / "pixels.ppm"
         self.screenshot(path, box)
-        return path.read_bytes()
+        _, _, width, height = box
+        return path.read_bytes()[-3 * width * height:]
 
     # Windows and input
 
@@ -202,6 +203,11 @@ class Stage:
         self.output("xdotool", "key", name)
 
     # The main window
+
+    def wait_for_main_window(self):
+        """Waits until it has the keyboard and is painted: the screen behind it is black."""
+        self.wait_for_active(MAIN_TITLE)
+        wait_for(lambda: any(self.pixels(self.control_box("ButtonApply"))), "a painted window")
 
     def control_box(self, name):
         """A control's (x, y, width, height) on the screen, y downwards."""

@@ -5,7 +5,7 @@ import sys
 import time
 import unittest
 
-from stage import MAIN_TITLE, Stage, wait_for
+from stage import Stage, wait_for
 
 PROGRAMS = pathlib.Path(sys.argv.pop(1)).resolve()
 TOOLS = pathlib.Path(sys.argv.pop(1)).resolve()
@@ -37,7 +37,7 @@ class Idle(unittest.TestCase):
                              stage.folder / "state")
         driver.wait_for_line("ready")
         self.utility = stage.start(TOOLS / "kyrgm_at", stage.settings)
-        stage.wait_for_active(MAIN_TITLE)
+        stage.wait_for_main_window()
         self.programs = {"KyrGM": self.utility, "kt7r4d": driver}
         wait_for(lambda: all(map(settled, self.programs.values())), "both programs at rest")
 

@@ -25,7 +25,7 @@ class MainJob(unittest.TestCase):
 
     def start_utility(self):
         self.utility = self.stage.start(TOOLS / "kyrgm_at", self.stage.settings)
-        self.stage.wait_for_active(MAIN_TITLE)
+        self.stage.wait_for_main_window()
         self.idle_apply = self.stage.pixels(self.stage.control_box("ButtonApply"))
 
     def open_list(self, button):

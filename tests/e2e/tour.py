@@ -12,7 +12,7 @@ import plistlib
 import signal
 import sys
 
-from stage import LIST_TITLE, MAIN_TITLE, Stage, wait_for
+from stage import LIST_TITLE, Stage, wait_for
 
 SETTINGS = pathlib.Path("/Users/Shared/KT7R4/KT7R4Setting.xml")
 KEPT = SETTINGS.with_name("KT7R4Setting.xml.before-tour")
@@ -58,7 +58,7 @@ def play(programs, pictures):
         driver = stage.start(programs / "kt7r4d", "--state-dir", stage.folder / "state")
         driver.wait_for_line("ready")
         stage.start(programs / "KyrGM")
-        stage.wait_for_active(MAIN_TITLE)
+        stage.wait_for_main_window()
         stage.screenshot(pictures / "1-start.png")
         say('right click on button 5, "Mouse Button 4", Apply')
         assign_and_apply(stage, pictures)
