@@ -1,0 +1,192 @@
+#include "controls/buttonstage.h"
+
+#include <QtGui/QHelpEvent>
+#include <QtGui/QTextDocumentFragment>
+#include <QtWidgets/QToolTip>
+
+/// The skinned button: its faces and its caption.
+class tst_hoverbutton : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFaceFollowsTheState_data();
+    void theFaceFollowsTheState();
+    void aMissingFaceLeavesTheFaceAsItWas_data();
+    void aMissingFaceLeavesTheFaceAsItWas();
+    void aFaceIsAPrivateCopy();
+    void theCaptionIsOrangeAndWhiteWhilePressed();
+    void theCaptionIsCentred();
+    void aLongCaptionIsCutAndToldInAToolTip();
+    void theCaptionIsToldToAssistiveTechnology();
+};
+
+namespace {
+
+using Steps = std::function<void(ButtonStage &)>;
+
+const QColor kOrange(255, 180, 0);
+
+QColor faceAfter(const Steps &steps)
+{
+    ButtonStage stage;
+    stage.setAllFaces();
+    steps(stage);
+    return stage.face();
+}
+
+/// A row: steps, and the face that they lead to.
+void faceRow(const char *name, const Steps &steps, const QColor &face)
+{
+    QTest::newRow(name) << steps << face;
+}
+
+} // namespace
+
+void tst_hoverbutton::theFaceFollowsTheState_data()
+{
+    QTest::addColumn<Steps>("steps");
+    QTest::addColumn<QColor>("face");
+    using Stage = ButtonStage;
+    faceRow(
+        "at rest", [](Stage &) {}, kNormalFace);
+    faceRow(
+        "pointer over it", [](Stage &s) { s.hover(); }, kHoverFace);
+    faceRow(
+        "pointer gone again", [](Stage &s) { s.hover(), s.leave(); }, kNormalFace);
+    faceRow(
+        "pressed", [](Stage &s) { s.press(); }, kPressedFace);
+    faceRow(
+        "clicked", [](Stage &s) { pointer::click(s.button); }, kHoverFace);
+    faceRow(
+        "clicked on", [](Stage &s) { s.button.setCheckable(true), pointer::click(s.button); },
+        kPressedFace);
+    faceRow(
+        "clicked on, pointer gone",
+        [](Stage &s) { s.button.setCheckable(true), pointer::click(s.button), s.leave(); },
+        kPressedFace);
+    faceRow(
+        "disabled", [](Stage &s) { s.button.setDisable(true); }, kDisabledFace);
+    faceRow(
+        "disabled, pointer over it", [](Stage &s) { s.button.setDisable(true), s.hover(); },
+        kDisabledFace);
+    faceRow(
+        "disabled under the pointer", [](Stage &s) { s.hover(), s.button.setDisable(true); },
+        kDisabledFace);
+    faceRow(
+        "disabled, pointer gone", [](Stage &s) { s.hover(), s.button.setDisable(true), s.leave(); },
+        kDisabledFace);
+    faceRow(
+        "disabled and pressed", [](Stage &s) { s.button.setDisable(true), s.press(); },
+        kDisabledFace);
+    faceRow(
+        "disabled while on",
+        [](Stage &s) {
+            s.button.setCheckable(true), pointer::click(s.button), s.button.setDisable(true);
+        },
+        kDisabledFace);
+    faceRow(
+        "enabled again", [](Stage &s) { s.button.setDisable(true), s.button.setDisable(false); },
+        kNormalFace);
+    faceRow(
+        "enabled again under the pointer",
+        [](Stage &s) { s.button.setDisable(true), s.hover(), s.button.setDisable(false); },
+        kNormalFace);
+}
+
+void tst_hoverbutton::theFaceFollowsTheState()
+{
+    QFETCH(Steps, steps);
+    QTEST(faceAfter(steps), "face");
+}
+
+void tst_hoverbutton::aMissingFaceLeavesTheFaceAsItWas_data()
+{
+    QTest::addColumn<Steps>("steps");
+    QTest::addColumn<QColor>("face");
+    using Stage = ButtonStage;
+    faceRow(
+        "hovered without hover face", [](Stage &s) { s.button.setHoverImage({}), s.hover(); },
+        kNormalFace);
+    faceRow(
+        "pressed without pressed face", [](Stage &s) { s.button.setAlternateImage({}), s.press(); },
+        kHoverFace);
+    faceRow(
+        "disabled without disabled face",
+        [](Stage &s) { s.button.setDisableImage({}), s.button.setDisable(true); }, kNormalFace);
+    faceRow(
+        "disabled without disabled face under the pointer",
+        [](Stage &s) {
+            s.button.setDisableImage({}), s.hover(), s.button.setDisable(true), s.leave();
+        },
+        kHoverFace);
+}
+
+void tst_hoverbutton::aMissingFaceLeavesTheFaceAsItWas()
+{
+    QFETCH(Steps, steps);
+    QTEST(faceAfter(steps), "face");
+}
+
+void tst_hoverbutton::aFaceIsAPrivateCopy()
+{
+    ButtonStage stage;
+    SkinImage picture = plainPicture(stage.button.size(), kNormalFace);
+    stage.button.setNormalImage(picture);
+    picture = plainPicture(stage.button.size(), kHoverFace);
+    QCOMPARE(stage.face(), kNormalFace);
+}
+
+void tst_hoverbutton::theCaptionIsOrangeAndWhiteWhilePressed()
+{
+    ButtonStage stage;
+    stage.button.setNormalImage(plainPicture(stage.button.size(), Qt::black));
+    stage.button.setCaptionText(QStringLiteral("HIT"));
+    const QColor atRest = brightest(shown(stage.button));
+    QVERIFY(atRest.value() > 150 && qAbs(atRest.hsvHue() - kOrange.hsvHue()) <= 1);
+    QCOMPARE(atRest.hsvSaturation(), 255);
+    stage.press();
+    const QColor pressed = brightest(shown(stage.button));
+    QVERIFY(pressed.value() > 150);
+    QCOMPARE(pressed.hsvSaturation(), 0);
+}
+
+void tst_hoverbutton::theCaptionIsCentred()
+{
+    ButtonStage stage;
+    stage.button.setNormalImage(plainPicture(stage.button.size(), Qt::black));
+    stage.button.setCaptionText(QStringLiteral("HIH"));
+    const QRect text = extentOfOther(shown(stage.button), Qt::black);
+    QVERIFY(text.width() > 8 && text.height() >= 6 && text.height() <= 10);
+    const QPoint off = text.center() - stage.button.rect().center();
+    QVERIFY(qAbs(off.x()) <= 1 && qAbs(off.y()) <= 2);
+}
+
+void tst_hoverbutton::aLongCaptionIsCutAndToldInAToolTip()
+{
+    ButtonStage stage;
+    const auto toolTipOver = [&](const QString &caption) {
+        QToolTip::hideText();
+        stage.button.setCaptionText(caption);
+        QHelpEvent help(QEvent::ToolTip, {10, 10}, stage.button.mapToGlobal(QPoint(10, 10)));
+        QApplication::sendEvent(&stage.button, &help);
+        return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+    };
+    QCOMPARE(toolTipOver(QStringLiteral("Short")), QString());
+    QCOMPARE(toolTipOver(QStringLiteral("A caption <b>far</b> too long for its button")),
+             QStringLiteral("A caption <b>far</b> too long for its button"));
+    stage.button.setNormalImage(plainPicture(stage.button.size(), Qt::black));
+    const QRect text = extentOfOther(shown(stage.button), Qt::black);
+    QVERIFY(text.width() > 60 && text.left() >= 4 && text.right() < stage.button.width() - 4);
+}
+
+void tst_hoverbutton::theCaptionIsToldToAssistiveTechnology()
+{
+    ButtonStage stage;
+    stage.button.setCaptionText(QStringLiteral("Jump"));
+    QCOMPARE(stage.button.accessibleDescription(), QStringLiteral("Jump"));
+    QCOMPARE(stage.button.captionText(), QStringLiteral("Jump"));
+}
+
+QTEST_MAIN(tst_hoverbutton)
+#include "tst_hoverbutton.moc"

@@ -1,0 +1,122 @@
+#include "controls/buttonstage.h"
+#include "support/drop.h"
+
+/// The skinned button as a place to drop texts on.
+class tst_hoverbuttondrop : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDroppedTextIsReadAsANumber_data();
+    void aDroppedTextIsReadAsANumber();
+    void theDropActionIsSentAfterTheNumberIsRead();
+    void aDropIsRefused_data();
+    void aDropIsRefused();
+    void theFaceShowsADragOverTheButton();
+};
+
+namespace {
+
+/// A button that takes drops.
+struct DropStage : ButtonStage
+{
+    DropStage()
+    {
+        setAllFaces();
+        button.enableDragDrop({&drops, &Clicks::receive});
+    }
+    Clicks drops;
+};
+
+} // namespace
+
+void tst_hoverbuttondrop::aDroppedTextIsReadAsANumber_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("number");
+    const auto row = [](const char *text, int number) {
+        QTest::newRow(text) << QString::fromLatin1(text) << number;
+    };
+    row("258", 258);
+    row("abc", 0);
+    row("", 0);
+    row("  4104", 4104);
+    row("17 and more", 17);
+    row("12.9", 12);
+    row("0x10", 0);
+    row("-3", -3);
+    row("+5", 5);
+    row("99999999999999999999", INT_MAX);
+}
+
+void tst_hoverbuttondrop::aDroppedTextIsReadAsANumber()
+{
+    QFETCH(QString, text);
+    DropStage stage;
+    dropText(stage.button, QStringLiteral("9999"));
+    QCOMPARE(stage.button.getDropindex(), 9999);
+    QVERIFY(dropText(stage.button, text));
+    QTEST(stage.button.getDropindex(), "number");
+}
+
+void tst_hoverbuttondrop::theDropActionIsSentAfterTheNumberIsRead()
+{
+    struct Reader : QObject
+    {
+        void receive(HoverButton *button) { read.push_back(button->getDropindex()); }
+        std::vector<int> read;
+    };
+    ButtonStage stage;
+    Reader reader;
+    stage.button.enableDragDrop({&reader, &Reader::receive});
+    dropText(stage.button, QStringLiteral("36"));
+    dropText(stage.button, QStringLiteral("37"));
+    QCOMPARE(reader.read, (std::vector<int>{36, 37}));
+    QCOMPARE(stage.clicks.count() + stage.rightClicks.count(), std::size_t{0});
+}
+
+void tst_hoverbuttondrop::aDropIsRefused_data()
+{
+    QTest::addColumn<bool>("enabledForDrops");
+    QTest::addColumn<bool>("disabled");
+    QTest::addColumn<bool>("text");
+    QTest::addColumn<bool>("taken");
+    QTest::newRow("taken") << true << false << true << true;
+    QTest::newRow("not enabled for drops") << false << false << true << false;
+    QTest::newRow("disabled") << true << true << true << false;
+    QTest::newRow("without text") << true << false << false << false;
+}
+
+void tst_hoverbuttondrop::aDropIsRefused()
+{
+    QFETCH(bool, enabledForDrops);
+    QFETCH(bool, disabled);
+    QFETCH(bool, text);
+    QFETCH(bool, taken);
+    ButtonStage stage;
+    ButtonStage::Clicks drops;
+    if (enabledForDrops)
+        stage.button.enableDragDrop({&drops, &ButtonStage::Clicks::receive});
+    stage.button.setDisable(disabled);
+    QMimeData data;
+    data.setData(text ? QStringLiteral("text/plain") : QStringLiteral("image/png"), "42");
+    QCOMPARE(dropOn(stage.button, data), taken);
+    QCOMPARE(drops.count(), std::size_t{taken ? 1U : 0U});
+    QCOMPARE(stage.button.getDropindex(), taken ? 42 : 0);
+}
+
+void tst_hoverbuttondrop::theFaceShowsADragOverTheButton()
+{
+    DropStage stage;
+    QMimeData data;
+    data.setText(QStringLiteral("1"));
+    QVERIFY(dragOver(stage.button, data));
+    QCOMPARE(stage.face(), kHoverFace);
+    dragAway(stage.button);
+    QCOMPARE(stage.face(), kNormalFace);
+    QVERIFY(dropOn(stage.button, data));
+    QCOMPARE(stage.face(), kNormalFace);
+}
+
+QTEST_MAIN(tst_hoverbuttondrop)
+#include "tst_hoverbuttondrop.moc"

@@ -1,0 +1,123 @@
+#include "controls/liststage.h"
+
+#include <QtCore/QMimeData>
+#include <QtGui/QDrag>
+#include <QtWidgets/QApplication>
+
+/// Rows dragged out of a list. The offscreen platform ends every drag at once and leaves it to the
+/// event loop to delete, so that what was dragged can be looked at.
+class tst_pnglistboxdrag : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDragCarriesTheCodeOfTheSelectedRow_data();
+    void aDragCarriesTheCodeOfTheSelectedRow();
+    void nothingIsDragged_data();
+    void nothingIsDragged();
+    void theDragPictureIsTheRowAtHalfOpacity();
+    void theRowIsHeldWhereItWasPressed();
+};
+
+namespace {
+
+using Prepare = std::function<void(pngListBox &)>;
+
+struct DragStage : ListStage
+{
+    DragStage()
+    {
+        list.setTag(kMacroListTag);
+        list.enableDragDrop(true);
+    }
+
+    /// Presses `from` the top of the list, moves by `way`, and gives the drag that this started.
+    /// The move is sent directly: delivered by the window, it would be over, and the drag deleted.
+    QDrag *drag(int from, QPoint way)
+    {
+        const QPoint start(20, from);
+        pointer::press(list, start);
+        QMouseEvent move(QEvent::MouseMove, start + way, list.mapToGlobal(start + way),
+                         Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(&list, &move);
+        return list.findChild<QDrag *>();
+    }
+};
+
+} // namespace
+
+void tst_pnglistboxdrag::aDragCarriesTheCodeOfTheSelectedRow_data()
+{
+    QTest::addColumn<int>("tag");
+    QTest::addColumn<int>("fromTop");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("first CPI step") << 4096 << 10 << QStringLiteral("16");
+    QTest::newRow("second profile") << 4097 << 30 << QStringLiteral("33");
+    QTest::newRow("third macro") << 4098 << 50 << QStringLiteral("258");
+}
+
+void tst_pnglistboxdrag::aDragCarriesTheCodeOfTheSelectedRow()
+{
+    QFETCH(int, tag);
+    QFETCH(int, fromTop);
+    DragStage stage;
+    stage.list.setTag(tag);
+    const QDrag *const drag = stage.drag(fromTop, {0, 15});
+    QVERIFY(drag);
+    QTEST(drag->mimeData()->text(), "text");
+    QCOMPARE(drag->mimeData()->formats(), QStringList{QStringLiteral("text/plain")});
+    QCOMPARE(drag->source(), &stage.list);
+}
+
+void tst_pnglistboxdrag::nothingIsDragged_data()
+{
+    QTest::addColumn<Prepare>("prepare");
+    QTest::addColumn<int>("fromTop");
+    QTest::addColumn<QPoint>("way");
+    const QPoint far(0, 15);
+    const auto row = [](const char *name, const Prepare &prepare, int fromTop, QPoint way) {
+        QTest::newRow(name) << prepare << fromTop << way;
+    };
+    row(
+        "not enabled", [](pngListBox &list) { list.enableDragDrop(false); }, 10, far);
+    row(
+        "a list without functions", [](pngListBox &list) { list.setTag(8192); }, 10, far);
+    row("hardly moved", [](pngListBox &) {}, 10, {1, 1});
+    row(
+        "nothing selected", [](pngListBox &) {}, 65, far);
+    row(
+        "no such row", [](pngListBox &list) { list.setcursel(3); }, 65, far);
+}
+
+void tst_pnglistboxdrag::nothingIsDragged()
+{
+    QFETCH(Prepare, prepare);
+    QFETCH(int, fromTop);
+    QFETCH(QPoint, way);
+    DragStage stage;
+    prepare(stage.list);
+    QVERIFY(!stage.drag(fromTop, way));
+}
+
+void tst_pnglistboxdrag::theDragPictureIsTheRowAtHalfOpacity()
+{
+    DragStage stage;
+    stage.list.setForeColor(200, 100, 50);
+    const QDrag *const drag = stage.drag(30, {0, 15});
+    QVERIFY(drag);
+    QCOMPARE(drag->pixmap().size(), QSize(97, 20));
+    const QColor corner = drag->pixmap().toImage().pixelColor(0, 0);
+    QVERIFY2(qAbs(corner.alpha() - 128) <= 2, qPrintable(corner.name(QColor::HexArgb)));
+    QVERIFY2(qAbs(corner.red() - 200) <= 4, qPrintable(corner.name(QColor::HexArgb)));
+}
+
+void tst_pnglistboxdrag::theRowIsHeldWhereItWasPressed()
+{
+    DragStage stage;
+    const QDrag *const drag = stage.drag(27, {0, 15});
+    QVERIFY(drag);
+    QCOMPARE(drag->hotSpot(), QPoint(20, 7));
+}
+
+QTEST_MAIN(tst_pnglistboxdrag)
+#include "tst_pnglistboxdrag.moc"

@@ -1,0 +1,99 @@
+#include "controls/liststage.h"
+#include "support/pictures.h"
+
+/// How the list of text rows is drawn.
+class tst_pnglistboxlooks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theListIsBlackWithTheSelectedRowInTheForeColour();
+    void theColoursCanBeSet();
+    void theTextStandsAtItsSide_data();
+    void theTextStandsAtItsSide();
+    void theTextStandsBelowTheTopOfItsRow();
+};
+
+namespace {
+
+/// Where the text of a row is, from the row's own upper left corner.
+QRect textInRow(QWidget &list, int row, int height)
+{
+    return extentOfOther(shown(list).copy(0, row * height, list.width(), height), Qt::black);
+}
+
+} // namespace
+
+void tst_pnglistboxlooks::theListIsBlackWithTheSelectedRowInTheForeColour()
+{
+    ListStage stage;
+    stage.list.clearAll();
+    for (int row = 0; row < 3; ++row)
+        stage.list.AddString({});
+    QCOMPARE(extentOf(shown(stage.list), Qt::black), stage.list.rect());
+    stage.list.setcursel(1);
+    QCOMPARE(extentOf(shown(stage.list), QColor(41, 41, 41)), QRect(0, 20, 97, 20));
+    stage.list.setItemHeight(30);
+    QCOMPARE(extentOf(shown(stage.list), QColor(41, 41, 41)), QRect(0, 30, 97, 30));
+    stage.list.setcursel(3); // no such row
+    QVERIFY(extentOf(shown(stage.list), QColor(41, 41, 41)).isEmpty());
+}
+
+void tst_pnglistboxlooks::theColoursCanBeSet()
+{
+    ListStage stage;
+    QCOMPARE(brightest(shown(stage.list)).hsvSaturation(), 0);
+    stage.list.setTextColor(0, 200, 0);
+    QCOMPARE(brightest(shown(stage.list)).hsvHue(), 120);
+    stage.list.setcursel(0);
+    stage.list.setForeColor(90, 80, 70);
+    QCOMPARE(extentOf(shown(stage.list), QColor(90, 80, 70)), QRect(0, 0, 97, 20));
+    stage.list.setForeColor(999, -1, 0);
+    QCOMPARE(shownAt(stage.list, {0, 0}), QColor(255, 0, 0));
+}
+
+void tst_pnglistboxlooks::theTextStandsAtItsSide_data()
+{
+    QTest::addColumn<std::optional<TextAlign>>("align");
+    QTest::addColumn<int>("side");
+    const auto row = [](const char *name, std::optional<TextAlign> align, int side) {
+        QTest::newRow(name) << align << side;
+    };
+    row("as made", std::nullopt, 0);
+    row("left", TextAlign::Left, -1);
+    row("right", TextAlign::Right, +1);
+    row("centre", TextAlign::Centre, 0);
+}
+
+void tst_pnglistboxlooks::theTextStandsAtItsSide()
+{
+    QFETCH(std::optional<TextAlign>, align);
+    QFETCH(int, side);
+    ListStage stage;
+    stage.list.clearAll();
+    stage.list.AddString(QStringLiteral("HIH"));
+    if (align)
+        stage.list.setTextAlign(*align);
+    const QRect text = textInRow(stage.list, 0, 20);
+    QVERIFY(text.width() > 8);
+    const int left = text.left();
+    const int right = stage.list.width() - 1 - text.right();
+    const bool holds = side < 0   ? left <= 2 && right > 50
+                       : side > 0 ? right <= 2 && left > 50
+                                  : qAbs(left - right) <= 2;
+    QVERIFY2(holds, qPrintable(QStringLiteral("%1 left, %2 right").arg(left).arg(right)));
+}
+
+void tst_pnglistboxlooks::theTextStandsBelowTheTopOfItsRow()
+{
+    ListStage stage;
+    stage.list.setItemHeight(30);
+    for (int row = 0; row < 3; ++row) {
+        const QRect text = textInRow(stage.list, row, 30);
+        // The strip is shorter by 3 at its top; the text begins there.
+        QVERIFY(text.height() > 4 && text.top() >= 3 && text.bottom() < 22);
+    }
+}
+
+QTEST_MAIN(tst_pnglistboxlooks)
+#include "tst_pnglistboxlooks.moc"
