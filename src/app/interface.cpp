@@ -1,6 +1,6 @@
 #include "app/interface.h"
 
-#include "mainview/mainview.h"
+#include "mainview/MainView.h"
 
 Interface::Interface(const Environment &environment)
     : m_mainWindow(

@@ -1,5 +1,5 @@
-#include "dialogs/popupprogressbar.h"
-#include "mainview/mainview.h"
+#include "dialogs/PopupProgressBar.h"
+#include "mainview/MainView.h"
 
 using driver::RequestType;
 

@@ -1,4 +1,4 @@
-#include "mainview/mainview.h"
+#include "mainview/MainView.h"
 
 /// The four states of the whole window, from which every control's faces are cut.
 struct MainView::Skin

@@ -1,5 +1,5 @@
 #include "functions/functioncodes.h"
-#include "mainview/mainview.h"
+#include "mainview/MainView.h"
 #include "model/fixedtext.h"
 
 namespace {

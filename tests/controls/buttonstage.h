@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/hoverbutton.h"
+#include "controls/HoverButton.h"
 #include "support/pictures.h"
 #include "support/pointer.h"
 #include "support/receiver.h"

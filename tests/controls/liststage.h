@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/pnglistbox.h"
+#include "controls/pngListBox.h"
 #include "support/logcapture.h"
 #include "support/pointer.h"
 #include "support/receiver.h"

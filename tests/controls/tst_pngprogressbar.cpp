@@ -1,4 +1,4 @@
-#include "controls/pngprogressbar.h"
+#include "controls/pngProgressBar.h"
 #include "support/pointer.h"
 #include "support/receiver.h"
 

@@ -1,4 +1,4 @@
-#include "controls/pngprogressbar.h"
+#include "controls/pngProgressBar.h"
 #include "support/pictures.h"
 
 #include <QtTest/QTest>

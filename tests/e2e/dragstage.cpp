@@ -3,8 +3,8 @@
 // Says on standard error what was dropped.
 
 #include "controls/custumwindow.h"
-#include "controls/hoverbutton.h"
-#include "controls/pnglistbox.h"
+#include "controls/HoverButton.h"
+#include "controls/pngListBox.h"
 #include "platform/systemlog.h"
 
 #include <QtWidgets/QApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/interface.h"
-#include "mainview/mainview.h"
+#include "mainview/MainView.h"
 #include "support/localnotificationcenter.h"
 #include "support/logcapture.h"
 #include "support/plistxml.h"

@@ -1,4 +1,4 @@
-#include "dialogs/popupprogressbar.h"
+#include "dialogs/PopupProgressBar.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "controls/custumwindow.h"
-#include "controls/hoverbutton.h"
-#include "controls/pnglistbox.h"
-#include "controls/pngprogressbar.h"
+#include "controls/HoverButton.h"
+#include "controls/pngListBox.h"
+#include "controls/pngProgressBar.h"
 #include "driver/driverlink.h"
 #include "mainview/controltable.h"
 #include "mainview/environment.h"

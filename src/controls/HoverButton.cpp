@@ -1,4 +1,4 @@
-#include "controls/hoverbutton.h"
+#include "controls/HoverButton.h"
 
 #include "platform/numbers.h"
 

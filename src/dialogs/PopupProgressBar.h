@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/pngprogressbar.h"
+#include "controls/pngProgressBar.h"
 #include "platform/view.h"
 
 /// The insides of the window that shows the progress of an on-board write.

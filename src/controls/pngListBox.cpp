@@ -1,4 +1,4 @@
-#include "controls/pnglistbox.h"
+#include "controls/pngListBox.h"
 
 #include "platform/systemlog.h"
 

@@ -1,0 +1,135 @@
+#include "support/drop.h"
+#include "support/mainwindow.h"
+
+#include <QtWidgets/QApplication>
+
+/// The in-game mode.
+class tst_gamemode : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theCheckBoxFlipsTheMode();
+    void theMouseButtonsAreDisabledWhileItIsOn();
+    void disabledMouseButtonsIgnoreEverything_data();
+    void disabledMouseButtonsIgnoreEverything();
+    void nothingElseIsDisabled();
+    void captionsStayCurrent();
+    void theModeIsNeitherSavedNorAChange();
+    void theModeIsSavedWithTheNextCommit();
+    void theGaugeFollowsWithTheNextRecount();
+};
+
+namespace {
+
+struct GameStage : MainWindowStage
+{
+    GameStage() { toggle(); }
+    void toggle() const { pointer::click(button("chkGameMode")); }
+
+    std::vector<int> enabledButtons() const
+    {
+        std::vector<int> numbers;
+        for (int number = 1; number <= 14; ++number) {
+            if (mouseButton(number).isEnabled())
+                numbers.push_back(number);
+        }
+        return numbers;
+    }
+};
+
+} // namespace
+
+void tst_gamemode::theCheckBoxFlipsTheMode()
+{
+    const GameStage stage;
+    QCOMPARE(m_Config.GAME_MODE, 1U);
+    QVERIFY(stage.button("chkGameMode").isChecked());
+    stage.toggle();
+    QCOMPARE(m_Config.GAME_MODE, 0U);
+    QVERIFY(!stage.button("chkGameMode").isChecked());
+}
+
+void tst_gamemode::theMouseButtonsAreDisabledWhileItIsOn()
+{
+    const GameStage stage;
+    QCOMPARE(stage.enabledButtons(), std::vector<int>{});
+    stage.toggle();
+    QCOMPARE(stage.enabledButtons().size(), std::size_t{14});
+}
+
+void tst_gamemode::disabledMouseButtonsIgnoreEverything_data()
+{
+    QTest::addColumn<int>("number");
+    for (int number = 1; number <= 14; ++number)
+        QTest::addRow("%d", number) << number;
+}
+
+void tst_gamemode::disabledMouseButtonsIgnoreEverything()
+{
+    QFETCH(int, number);
+    const GameStage stage;
+    HoverButton &button = stage.mouseButton(number);
+    const auto before = m_Config.PROFILE[0].BUTTON[number - 1];
+    pointer::click(button);
+    pointer::rightClick(button);
+    QVERIFY(!dropText(button, QStringLiteral("4104")));
+    QCOMPARE(stage.buttonsOn(), std::vector<int>{});
+    QVERIFY(stage.view().currentButton() < 0);
+    QCOMPARE(m_Config.PROFILE[0].BUTTON[number - 1], before);
+    QVERIFY(!stage.window().findChild<QWidget *>(QStringLiteral("pListbox")));
+    QVERIFY(!stage.applyIsEnabled());
+}
+
+void tst_gamemode::nothingElseIsDisabled()
+{
+    const GameStage stage;
+    for (const char *name : {"ButtonOK", "ButtonCancel", "BtnClose", "BtnMin", "chkGameMode"})
+        QVERIFY2(stage.button(name).isEnabled(), name);
+}
+
+void tst_gamemode::captionsStayCurrent()
+{
+    GameStage stage;
+    m_Config.PROFILE[1].BUTTON[3] = 0x7009;
+    stage.reportProfile(2);
+    QCOMPARE(stage.mouseButton(4).captionText(), QStringLiteral("Screen Shot"));
+    QCOMPARE(stage.enabledButtons(), std::vector<int>{});
+}
+
+void tst_gamemode::theModeIsNeitherSavedNorAChange()
+{
+    const GameStage stage;
+    QVERIFY(!stage.applyIsEnabled());
+    QVERIFY(stage.settings.bytes().isEmpty());
+    QVERIFY(stage.requestsSinceStart().empty());
+    stage.toggle();
+    dropText(stage.mouseButton(3), QStringLiteral("1"));
+    QVERIFY(stage.applyIsEnabled());
+    stage.toggle();
+    QVERIFY(stage.applyIsEnabled());
+}
+
+void tst_gamemode::theModeIsSavedWithTheNextCommit()
+{
+    const GameStage stage;
+    pointer::click(stage.button("ButtonOK"));
+    QCOMPARE(stage.written()[QStringLiteral("GAME_MODE")], 1);
+}
+
+void tst_gamemode::theGaugeFollowsWithTheNextRecount()
+{
+    GameStage stage;
+    stage.toggle();
+    for (FunctionCode &code : m_Config.PROFILE[0].BUTTON)
+        code = 3;
+    stage.reportProfile(1);
+    QCOMPARE(stage.view().memoryUsage(), 1U); // 75 + 14 * 10 bytes
+    stage.toggle();
+    QCOMPARE(stage.view().memoryUsage(), 1U);
+    stage.reportProfile(1);
+    QCOMPARE(stage.view().memoryUsage(), 0U);
+}
+
+QTEST_MAIN(tst_gamemode)
+#include "tst_gamemode.moc"

@@ -1,0 +1,286 @@
+#include "mainviewcontrols.h"
+#include "support/mainwindow.h"
+#include "support/pictures.h"
+
+#include <QtGui/QEnterEvent>
+#include <QtWidgets/QApplication>
+
+/// Where the controls of the main view stand and how the view is drawn.
+class tst_layout : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyControlIsInItsPlace_data() { controlRows(); }
+    void everyControlIsInItsPlace();
+    void everyButtonHasItsTagKindAndCaption_data() { buttonRows(); }
+    void everyButtonHasItsTagKindAndCaption();
+    void thereAreNoOtherControls();
+    void theFacesAreCutFromTheSkin_data() { buttonRows(); }
+    void theFacesAreCutFromTheSkin();
+    void aButtonUnderThePointerShowsItsHoverFace();
+    void aButtonThatIsOnShowsItsPressedFace();
+    void everyControlIsNamedForAssistiveTechnology_data() { controlRows(); }
+    void everyControlIsNamedForAssistiveTechnology();
+    void theMemoryBarIsFixed();
+    void theCornersAreTransparent();
+    void theBackgroundIsTheSkin();
+    void theLabelsStandOnTheBackground_data();
+    void theLabelsStandOnTheBackground();
+    void aColourLineHasItsProfilesColour_data();
+    void aColourLineHasItsProfilesColour();
+    void aColourLineIsAsLargeAsItsKey();
+
+private:
+    static void controlRows();
+    static void buttonRows();
+};
+
+namespace {
+
+const QColor kOrange(255, 180, 0);
+
+/// A picture of the skin as it was drawn, not as the program packs it.
+QPixmap skin(const char *name)
+{
+    return QPixmap(QStringLiteral(SKIN_FOLDER "/%1.png").arg(QLatin1String(name)));
+}
+
+QRect downward(const KnownControl &control)
+{
+    return {control.x, 640 - control.y - control.height, control.width, control.height};
+}
+
+/// What a face looks like on the colour that stands behind a control drawn by itself.
+QImage faceOf(const HoverButton &button, const char *picture, QRect part)
+{
+    QPixmap face(part.size());
+    face.fill(button.palette().color(QPalette::Window));
+    QPainter(&face).drawPixmap(QPoint(), skin(picture), part);
+    return face.toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+/// The face alone: a caption would stand on it.
+QImage shownFace(HoverButton &button)
+{
+    button.setCaptionText({});
+    return shown(button);
+}
+
+void enter(HoverButton &button)
+{
+    const QPointF at(5, 5);
+    QEnterEvent event(at, at, button.mapToGlobal(at));
+    QApplication::sendEvent(&button, &event);
+}
+
+QWidget *controlNamed(const MainWindowStage &stage, const char *name)
+{
+    return stage.view().findChild<QWidget *>(QString::fromLatin1(name));
+}
+
+} // namespace
+
+void tst_layout::controlRows()
+{
+    QTest::addColumn<const KnownControl *>("control");
+    for (const KnownControl &control : kKnownControls)
+        QTest::newRow(control.name) << &control;
+}
+
+void tst_layout::buttonRows()
+{
+    QTest::addColumn<const KnownControl *>("control");
+    for (const KnownControl &control : kKnownControls) {
+        if (control.kind != Kind::Bar)
+            QTest::newRow(control.name) << &control;
+    }
+}
+
+void tst_layout::everyControlIsInItsPlace()
+{
+    QFETCH(const KnownControl *, control);
+    const MainWindowStage stage;
+    const QWidget *const widget = controlNamed(stage, control->name);
+    QVERIFY(widget);
+    QCOMPARE(widget->parentWidget(), &stage.view());
+    QCOMPARE(widget->geometry(), downward(*control));
+    QVERIFY(widget->isVisible());
+}
+
+void tst_layout::everyButtonHasItsTagKindAndCaption()
+{
+    QFETCH(const KnownControl *, control);
+    const MainWindowStage stage;
+    const HoverButton &button = stage.button(control->name);
+    QCOMPARE(button.tag(), control->tag);
+    QCOMPARE(button.isCheckable(), control->kind == Kind::Check);
+    QCOMPARE(button.captionText(), QString::fromLatin1(control->caption));
+}
+
+void tst_layout::thereAreNoOtherControls()
+{
+    const MainWindowStage stage;
+    QStringList names;
+    for (const QObject *child : stage.view().children()) {
+        if (child->isWidgetType() && !child->objectName().isEmpty())
+            names.append(child->objectName());
+    }
+    QStringList expected;
+    for (const KnownControl &control : kKnownControls)
+        expected.append(QString::fromLatin1(control.name));
+    QCOMPARE(names, expected); // in the order of their making
+}
+
+void tst_layout::theFacesAreCutFromTheSkin()
+{
+    QFETCH(const KnownControl *, control);
+    const MainWindowStage stage;
+    HoverButton &button = stage.button(control->name);
+    const QRect part = downward(*control);
+    button.setDisable(true);
+    // A profile key goes on showing the current profile.
+    if (!button.objectName().startsWith(QLatin1String("BtnProfile")))
+        QCOMPARE(shownFace(button), faceOf(button, "mainDis", part));
+    button.setDisable(false);
+    button.setChecked(false);
+    QCOMPARE(shownFace(button), faceOf(button, "mainbk", part));
+    enter(button);
+    QCOMPARE(shownFace(button), faceOf(button, "mainO", part));
+    button.setDown(true);
+    QCOMPARE(shownFace(button), faceOf(button, "mainD", part));
+}
+
+void tst_layout::aButtonUnderThePointerShowsItsHoverFace()
+{
+    const MainWindowStage stage;
+    HoverButton &button = stage.mouseButton(4);
+    const QRect part(234, 640 - 415 - 27, 97, 27);
+    pointer::move(stage.view(), {40, 300}); // the way into the window
+    pointer::move(button, {40, 10});
+    QCOMPARE(shownFace(button), faceOf(button, "mainO", part));
+    pointer::move(stage.view(), {40, 300});
+    QCOMPARE(shownFace(button), faceOf(button, "mainbk", part));
+}
+
+void tst_layout::aButtonThatIsOnShowsItsPressedFace()
+{
+    const MainWindowStage stage;
+    HoverButton &key = stage.profileKey(1);
+    QCOMPARE(shownFace(key), faceOf(key, "mainD", {164, 640 - 512 - 35, 42, 35}));
+}
+
+void tst_layout::everyControlIsNamedForAssistiveTechnology()
+{
+    QFETCH(const KnownControl *, control);
+    const MainWindowStage stage;
+    QVERIFY(!controlNamed(stage, control->name)->accessibleName().isEmpty());
+}
+
+void tst_layout::theMemoryBarIsFixed()
+{
+    const MainWindowStage stage;
+    auto *const bar = stage.view().findChild<pngProgressBar *>(QStringLiteral("MSMemoryUsageBar"));
+    QVERIFY(bar);
+    QCOMPARE(bar->tag(), 0x102A);
+    QCOMPARE(bar->minimum(), 0);
+    QCOMPARE(bar->maximum(), 64);
+    pointer::click(*bar, {45, 9});
+    QCOMPARE(bar->getPos(), 0);
+
+    const QRect part(60, 640 - 350 - 18, 90, 18);
+    const QImage empty = skin("mainbk").copy(part).toImage();
+    const QImage full = skin("mainO").copy(part).toImage();
+    QVERIFY(empty != full);
+    bar->setPos(32);
+    const QImage half = shown(*bar);
+    QCOMPARE(half.copy(45, 0, 45, 18), empty.copy(45, 0, 45, 18).convertToFormat(half.format()));
+    QCOMPARE(half.copy(0, 0, 45, 18), full.copy(0, 0, 45, 18).convertToFormat(half.format()));
+}
+
+void tst_layout::theCornersAreTransparent()
+{
+    const MainWindowStage stage;
+    // The view by itself: it begins on an opaque ground, which it has to clear.
+    const QImage picture = shown(stage.view());
+    for (const QPoint corner : {QPoint(0, 0), QPoint(653, 0), QPoint(0, 639), QPoint(653, 639)})
+        QCOMPARE(picture.pixelColor(corner).alpha(), 0);
+}
+
+void tst_layout::theBackgroundIsTheSkin()
+{
+    const MainWindowStage stage;
+    const QImage picture = shown(stage.view());
+    const QImage background = skin("mainbk").toImage().convertToFormat(picture.format());
+    const QRect bare(60, 600, 540, 30); // below every control
+    QCOMPARE(picture.copy(bare), background.copy(bare));
+}
+
+void tst_layout::theLabelsStandOnTheBackground_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QRect>("place");
+    QTest::addColumn<int>("align");
+    QTest::addColumn<int>("size");
+    const auto row = [](const char *text, QRect place, Qt::AlignmentFlag align, int size) {
+        QTest::newRow(text) << QString::fromLatin1(text) << place << int{align} << size;
+    };
+    row("PROFILE", {70, 640 - 520 - 15, 70, 15}, Qt::AlignHCenter, 11);
+    row("Enable in-game mode", {80, 640 - 395 - 15, 120, 15}, Qt::AlignLeft, 10);
+    row("Mouse Memory usage", {60, 640 - 368 - 15, 138, 15}, Qt::AlignLeft, 10);
+    row("0%", {154, 640 - 350 - 15, 45, 15}, Qt::AlignLeft, 10);
+}
+
+void tst_layout::theLabelsStandOnTheBackground()
+{
+    QFETCH(QString, text);
+    QFETCH(QRect, place);
+    QFETCH(int, align);
+    QFETCH(int, size);
+    const MainWindowStage stage;
+    QPixmap expected = skin("mainbk");
+    QPainter painter(&expected);
+    QFont font = QApplication::font();
+    font.setPixelSize(size);
+    painter.setFont(font);
+    painter.setPen(kOrange);
+    painter.drawText(place, align | Qt::AlignTop, text);
+    painter.end();
+    const QImage picture = shown(stage.view()).copy(place);
+    QVERIFY(picture != skin("mainbk").toImage().convertToFormat(picture.format()).copy(place));
+    QCOMPARE(picture, expected.toImage().convertToFormat(picture.format()).copy(place));
+}
+
+void tst_layout::aColourLineHasItsProfilesColour_data()
+{
+    QTest::addColumn<int>("profile");
+    QTest::addColumn<QRect>("line");
+    constexpr int left[] = {164, 205, 245, 284, 324, 364, 404, 444, 484, 524};
+    for (int profile = 0; profile < 10; ++profile)
+        QTest::addRow("%d", profile + 1)
+            << profile << QRect(left[profile] + 2, 640 - 502 - 5, 38, 5);
+}
+
+void tst_layout::aColourLineHasItsProfilesColour()
+{
+    QFETCH(int, profile);
+    QFETCH(QRect, line);
+    const MainWindowStage stage;
+    const QColor colour(17 * profile, 255 - profile, 100 + profile);
+    m_Config.PROFILE[profile].LED_COLOR_R = static_cast<std::uint32_t>(colour.red());
+    m_Config.PROFILE[profile].LED_COLOR_G = static_cast<std::uint32_t>(colour.green());
+    m_Config.PROFILE[profile].LED_COLOR_B = static_cast<std::uint32_t>(colour.blue());
+    QCOMPARE(extentOf(shown(stage.view()), colour), line);
+}
+
+void tst_layout::aColourLineIsAsLargeAsItsKey()
+{
+    const MainWindowStage stage; // every profile's colour is 255, 60, 0 at first
+    const QImage picture = shown(stage.view());
+    const QColor colour(255, 60, 0);
+    QCOMPARE(extentOf(picture, colour), QRect(166, 133, 398, 5));
+    QVERIFY(picture.pixelColor(204, 135) != colour); // between the first two
+}
+
+QTEST_MAIN(tst_layout)
+#include "tst_layout.moc"
