@@ -151,5 +151,19 @@ class Interop(unittest.TestCase):
             plistlib.dump(settings, file, fmt=plistlib.FMT_BINARY)
         self.assert_store_reads(self.path, settings)
 
+    def test_other_readers_take_a_carriage_return_for_a_line_feed(self):
+        # The store writes it as it is. It reads it back, as plistutil does; XML readers that keep
+        # to the letter take any line break in a file for a line feed.
+        settings = build(sample_value)
+        settings["PROFILE_10"]["MACRO_50"]["COPY_PASTER"] = "a\r\nb\rc\n"
+        with open(self.other, "wb") as file:
+            plistlib.dump(settings, file, fmt=plistlib.FMT_BINARY)
+        subprocess.run([STORETOOL, "copy", self.other, self.path], check=True)
+        self.assert_store_reads(self.path, settings)
+        self.convert(self.path, self.other, "bin")
+        self.assertEqual(plistlib.loads(self.read(self.other)), settings)
+        settings["PROFILE_10"]["MACRO_50"]["COPY_PASTER"] = "a\nb\nc\n"
+        self.assertEqual(plistlib.loads(self.read(self.path)), settings)
+
 
 unittest.main(argv=sys.argv[:1])

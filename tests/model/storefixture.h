@@ -3,7 +3,10 @@
 #include "support/logcapture.h"
 #include "support/testsettings.h"
 
+#include <QtCore/QDir>
+
 #include <cstring>
+#include <filesystem>
 
 /// A store with a private settings file, its log lines taken.
 struct StoreFixture
@@ -30,4 +33,18 @@ struct StoreFixture
 inline bool sameRecord(const ConfigData &a, const ConfigData &b)
 {
     return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+/// The names of all that is in the fixture's folder.
+inline QStringList entries(const StoreFixture &fixture)
+{
+    return QDir(fixture.settings.folder())
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                   QDir::Name);
+}
+
+inline void setFolderMode(const StoreFixture &fixture, unsigned mode)
+{
+    std::filesystem::permissions(fixture.settings.folder().toStdString(),
+                                 std::filesystem::perms{mode});
 }

@@ -11,6 +11,7 @@
 /// storetool dump PATH: prints what the store reads from a settings file, a line "WHERE.KEY=VALUE"
 /// for every key: integers as decimals, texts as the bytes in hexadecimal, event lists as
 /// "keycode/kind/delay" for every slot up to the last one that is not all zero.
+/// storetool copy FROM TO: reads a settings file and writes another.
 
 namespace {
 
@@ -96,9 +97,9 @@ void printMember(const Key &key, Place place)
 
 int main(int argc, char **argv)
 {
-    const std::string_view command = argc == 3 ? argv[1] : "";
+    const std::string_view command = argc > 2 ? argv[1] : "";
     xmlconfig store;
-    store.setConfigfileName(argc == 3 ? argv[2] : "");
+    store.setConfigfileName(argc > 2 ? argv[2] : "");
     if (command == "write-sample") {
         forEveryMember(putSample);
         store.WriteConfigFile();
@@ -109,6 +110,12 @@ int main(int argc, char **argv)
         forEveryMember(printMember);
         return 0;
     }
-    std::fputs("usage: storetool write-sample PATH | dump PATH\n", stderr);
+    if (command == "copy" && argc > 3) {
+        store.LoadConfigFile();
+        store.setConfigfileName(argv[3]);
+        store.WriteConfigFile();
+        return 0;
+    }
+    std::fputs("usage: storetool write-sample PATH | dump PATH | copy FROM TO\n", stderr);
     return 2;
 }

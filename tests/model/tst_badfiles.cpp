@@ -3,7 +3,6 @@
 #include "support/plistxml.h"
 #include "support/unprivileged.h"
 
-#include <QtCore/QDir>
 #include <QtTest/QTest>
 
 #include <sys/stat.h>
@@ -93,12 +92,6 @@ bool saysThatItCannotBeRead(const StoreFixture &fixture)
 {
     return fixture.log.lines ==
            std::vector{fixture.settings.path() + " cannot be read, starting with defaults"};
-}
-
-QStringList entries(const StoreFixture &fixture)
-{
-    return QDir(fixture.settings.folder())
-        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
 /// A settings file with something on every level.
@@ -256,8 +249,7 @@ void tst_badfiles::aFileWithoutPermissionGivesDefaults()
 {
     StoreFixture fixture;
     fixture.settings.put(smallSettings());
-    std::filesystem::permissions(fixture.settings.folder().toStdString(),
-                                 std::filesystem::perms{0755});
+    setFolderMode(fixture, 0755);
     std::filesystem::permissions(fixture.settings.path(), std::filesystem::perms::none);
     {
         const Unprivileged nobody;

@@ -13,6 +13,10 @@ class tst_storekeys : public QObject
 private Q_SLOTS:
     void aKeyIsReadIntoItsMemberAndNowhereElse_data();
     void aKeyIsReadIntoItsMemberAndNowhereElse();
+    void aTextIsCutToItsFieldAndChangesNoOther_data();
+    void aTextIsCutToItsFieldAndChangesNoOther();
+    void aListIsCutToItsSlotsAndChangesNoOther_data();
+    void aListIsCutToItsSlotsAndChangesNoOther();
     void everyMemberIsWrittenUnderItsKeyAndNothingElse();
     void aValueOfAnotherTypeReadsAsMissing_data();
     void aValueOfAnotherTypeReadsAsMissing();
@@ -102,6 +106,68 @@ QVariantMap everyProfileValue(unsigned profile)
     return result;
 }
 
+/// The values of every key of a level, but `element` under one of them.
+QByteArray everyElementBut(const Key &one, const QByteArray &element, Level level, Place place)
+{
+    QByteArray entries;
+    for (const Key &key : kSettingsKeys) {
+        if (key.level == level)
+            entries += plistEntry(key.name, &key == &one ? element : elementFor(key, place));
+    }
+    return entries;
+}
+
+/// A file that says something about everything in one profile and one macro of it, and `element`
+/// under one of the keys.
+QByteArray fullFileBut(const Key &one, const QByteArray &element, Place place)
+{
+    const auto entries = [&](Level level) { return everyElementBut(one, element, level, place); };
+    const auto nested = [](const QByteArray &key, const QByteArray &inner) {
+        return plistEntry(key, plistDictionary(inner));
+    };
+    const QByteArray profile = entries(Level::Profile) +
+                               nested("CHARACTER_INFO", entries(Level::Character)) +
+                               nested(numbered("MACRO_", place.macro), entries(Level::Macro));
+    return plistOf(entries(Level::Root) + nested(numbered("PROFILE_", place.profile), profile));
+}
+
+/// Loads that file; then `bytes` must be all that the key's member holds, and every other member
+/// must hold what the file says about it.
+void compareFullFileBut(const Key &one, const QByteArray &element, const QByteArray &bytes)
+{
+    const Place place = {4, 7};
+    StoreFixture fixture;
+    fixture.load(fullFileBut(one, element, place));
+
+    const auto expected = std::make_unique<ConfigData>();
+    for (const Key &key : kSettingsKeys)
+        putValue(*expected, key, place);
+    const auto member = memberAt(*expected, one, place);
+    std::ranges::fill(member, '\0');
+    std::ranges::copy(bytes, member.begin());
+    for (const Key &key : kSettingsKeys)
+        QVERIFY2(
+            std::ranges::equal(memberAt(m_Config, key, place), memberAt(*expected, key, place)),
+            key.name);
+    QVERIFY(sameRecord(m_Config, *expected));
+}
+
+/// Rows for the keys that hold such values: the length the file gives and the one that is kept.
+void lengthRows(Holds holds, qsizetype elementSize, qsizetype terminator)
+{
+    QTest::addColumn<const Key *>("key");
+    QTest::addColumn<qsizetype>("length");
+    QTest::addColumn<qsizetype>("kept");
+    for (const Key &key : kSettingsKeys) {
+        if (key.holds != holds)
+            continue;
+        const qsizetype most = static_cast<qsizetype>(key.size) / elementSize - terminator;
+        for (const qsizetype more : {0, 1, 1000})
+            QTest::addRow("%s, %d too long", key.name, static_cast<int>(more))
+                << &key << most + more << most;
+    }
+}
+
 /// A value of every type that a property list knows.
 const QByteArray kElements[] = {
     "<integer>7</integer>",
@@ -152,6 +218,37 @@ void tst_storekeys::aKeyIsReadIntoItsMemberAndNowhereElse()
     const auto expected = std::make_unique<ConfigData>();
     putValue(*expected, *key, place);
     QVERIFY(sameRecord(m_Config, *expected));
+}
+
+void tst_storekeys::aTextIsCutToItsFieldAndChangesNoOther_data()
+{
+    lengthRows(Holds::Text, 1, 1);
+}
+
+void tst_storekeys::aTextIsCutToItsFieldAndChangesNoOther()
+{
+    QFETCH(const Key *, key);
+    QFETCH(qsizetype, length);
+    QFETCH(qsizetype, kept);
+    compareFullFileBut(*key, "<string>" + QByteArray(length, 'x') + "</string>",
+                       QByteArray(kept, 'x'));
+}
+
+void tst_storekeys::aListIsCutToItsSlotsAndChangesNoOther_data()
+{
+    lengthRows(Holds::Events, sizeof(KeymapEvent), 0);
+}
+
+void tst_storekeys::aListIsCutToItsSlotsAndChangesNoOther()
+{
+    QFETCH(const Key *, key);
+    QFETCH(qsizetype, length);
+    QFETCH(qsizetype, kept);
+    const KeymapEvent event = {1001, 1002, 1003};
+    const QByteArray bytes(reinterpret_cast<const char *>(&event), sizeof event);
+    compareFullFileBut(*key,
+                       "<string>" + QByteArray("1001,1002,1003,").repeated(length) + "</string>",
+                       bytes.repeated(kept));
 }
 
 void tst_storekeys::everyMemberIsWrittenUnderItsKeyAndNothingElse()

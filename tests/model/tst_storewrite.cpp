@@ -19,6 +19,7 @@ private Q_SLOTS:
     void thePathIsKeptInTheGlobal();
     void theFileIsAnXmlPropertyList();
     void everyProfileAndMacroIsWrittenUsedOrNot();
+    void aFullListIsWrittenInFull();
     void loadingAGoodFileWritesNothing();
     void aNewFileIsReadableByTheDriverProcess();
     void permissionsAreKept_data();
@@ -29,69 +30,18 @@ private Q_SLOTS:
     void aWriteThatFailsIsLoggedAndChangesNothing();
     void aReadOnlyFolderKeepsTheOldFile();
     void aWriteSucceedsAfterOneThatFailed();
-    void anUnreadableFileIsKeptBeforeTheFirstWrite();
-    void aSecondUnreadableFileDoesNotReplaceTheFirst();
-    void aMissingFileLeavesNothingAside();
-    void aGoodFileIsNotKept();
-    void anUnreadableFileThatIsGoneSinceDoesNotStopTheWrite();
-    void anUnreadableFileThatCannotBeKeptStopsTheWrite();
-    void whatIsNoFileIsMovedAsideToo_data();
-    void whatIsNoFileIsMovedAsideToo();
 };
 
 namespace {
 
 const std::string kWriteFail = "write fail!";
 const QString kName = QStringLiteral("KT7R4Setting.xml");
-const QString kKept = QStringLiteral("KT7R4Setting.xml.unreadable");
-
-QStringList entries(const StoreFixture &fixture)
-{
-    return QDir(fixture.settings.folder())
-        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                   QDir::Name);
-}
-
-QByteArray bytesOf(const StoreFixture &fixture, const QString &name)
-{
-    QFile file(fixture.settings.folder() + QLatin1Char('/') + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 unsigned permissionsOf(const std::string &path)
 {
     struct stat about = {};
     return ::stat(path.c_str(), &about) == 0 ? about.st_mode & 07777U : 0;
 }
-
-void setFolderMode(const StoreFixture &fixture, unsigned mode)
-{
-    std::filesystem::permissions(fixture.settings.folder().toStdString(),
-                                 std::filesystem::perms{mode});
-}
-
-qlonglong writtenPollingRate(const StoreFixture &fixture)
-{
-    return readPlist(fixture.settings.bytes())[QStringLiteral("POLLING_RATE")].toLongLong();
-}
-
-/// A fixture with an unreadable file already loaded.
-struct UnreadableFixture : StoreFixture
-{
-    UnreadableFixture() { loadUnreadable("junk"); }
-    void loadUnreadable(const QByteArray &bytes)
-    {
-        settings.put(bytes);
-        store.LoadConfigFile();
-        log.lines.clear();
-    }
-    bool saysKeptAs(const QString &name) const
-    {
-        return log.lines ==
-               std::vector{settings.path() + " could not be read and is kept as " +
-                           (settings.folder() + QLatin1Char('/') + name).toStdString()};
-    }
-};
 
 } // namespace
 
@@ -126,6 +76,28 @@ void tst_storewrite::everyProfileAndMacroIsWrittenUsedOrNot()
     QCOMPARE(macro[QStringLiteral("KEYMAP")], QVariant(QStringLiteral("")));
     QCOMPARE(macro[QStringLiteral("STARTKEY")], QVariant(QStringLiteral("0,0,0,0,0,0,")));
     QCOMPARE(macro[QStringLiteral("SENDKEY")], QVariant(QStringLiteral("0,0,0,0,0,0,")));
+}
+
+void tst_storewrite::aFullListIsWrittenInFull()
+{
+    StoreFixture fixture;
+    MacroInfo &macro = m_Config.PROFILE[9].MACRO[49];
+    std::uint32_t number = 0;
+    for (KeymapEvent &event : macro.KEYMAP)
+        event = {number + 1, number + 2, number + 3}, number += 3;
+    macro.bSTARTKEY = 1;
+    macro.STARTKEY[0] = {7, 1, 2};
+    fixture.store.WriteConfigFile();
+
+    const QVariantMap profile =
+        readPlist(fixture.settings.bytes())[QStringLiteral("PROFILE_10")].toMap();
+    const QVariantMap written = profile[QStringLiteral("MACRO_50")].toMap();
+    QStringList expected;
+    for (int i = 1; i <= 1500; ++i)
+        expected += QString::number(i);
+    expected += QString(); // behind the last comma
+    QCOMPARE(written[QStringLiteral("KEYMAP")].toString().split(QLatin1Char(',')), expected);
+    QCOMPARE(written[QStringLiteral("STARTKEY")], QVariant(QStringLiteral("7,1,2,0,0,0,")));
 }
 
 void tst_storewrite::loadingAGoodFileWritesNothing()
@@ -235,102 +207,6 @@ void tst_storewrite::aWriteSucceedsAfterOneThatFailed()
     fixture.store.WriteConfigFile();
     QCOMPARE(fixture.log.lines, std::vector{kWriteFail});
     QVERIFY(QFile::exists(folder + QStringLiteral("/KT7R4Setting.xml")));
-}
-
-void tst_storewrite::anUnreadableFileIsKeptBeforeTheFirstWrite()
-{
-    UnreadableFixture fixture;
-    QCOMPARE(entries(fixture), QStringList{kName}); // not yet: nothing is written at load
-    m_Config.POLLING_RATE = 2;
-    fixture.store.WriteConfigFile();
-    QVERIFY(fixture.saysKeptAs(kKept));
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
-    QCOMPARE(bytesOf(fixture, kKept), QByteArray("junk"));
-    QCOMPARE(writtenPollingRate(fixture), 2);
-
-    m_Config.POLLING_RATE = 3;
-    fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
-    QCOMPARE(writtenPollingRate(fixture), 3);
-}
-
-void tst_storewrite::aSecondUnreadableFileDoesNotReplaceTheFirst()
-{
-    UnreadableFixture fixture;
-    fixture.store.WriteConfigFile();
-    fixture.loadUnreadable("second");
-    fixture.store.WriteConfigFile();
-    const QString second = kKept + QStringLiteral(".2");
-    QVERIFY(fixture.saysKeptAs(second));
-    QCOMPARE(bytesOf(fixture, kKept), QByteArray("junk"));
-    QCOMPARE(bytesOf(fixture, second), QByteArray("second"));
-}
-
-void tst_storewrite::aMissingFileLeavesNothingAside()
-{
-    StoreFixture fixture;
-    fixture.store.LoadConfigFile();
-    fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), QStringList{kName});
-    QVERIFY(fixture.log.lines.empty());
-}
-
-void tst_storewrite::aGoodFileIsNotKept()
-{
-    UnreadableFixture fixture;
-    fixture.load(plistOf("")); // good again before anything was written
-    fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), QStringList{kName});
-    QVERIFY(fixture.log.lines.empty());
-}
-
-void tst_storewrite::anUnreadableFileThatIsGoneSinceDoesNotStopTheWrite()
-{
-    UnreadableFixture fixture;
-    QVERIFY(QFile::remove(QString::fromStdString(fixture.settings.path())));
-    fixture.store.WriteConfigFile();
-    QVERIFY(fixture.log.lines.empty());
-    QCOMPARE(entries(fixture), QStringList{kName});
-}
-
-void tst_storewrite::anUnreadableFileThatCannotBeKeptStopsTheWrite()
-{
-    UnreadableFixture fixture;
-    setFolderMode(fixture, 0555);
-    {
-        const Unprivileged nobody;
-        fixture.store.WriteConfigFile();
-    }
-    setFolderMode(fixture, 0755);
-    QCOMPARE(fixture.log.lines, std::vector{kWriteFail});
-    QCOMPARE(fixture.settings.bytes(), QByteArray("junk"));
-
-    fixture.log.lines.clear();
-    fixture.store.WriteConfigFile();
-    QVERIFY(fixture.saysKeptAs(kKept));
-}
-
-void tst_storewrite::whatIsNoFileIsMovedAsideToo_data()
-{
-    QTest::addColumn<bool>("isFolder");
-    QTest::newRow("folder") << true;
-    QTest::newRow("named pipe") << false;
-}
-
-void tst_storewrite::whatIsNoFileIsMovedAsideToo()
-{
-    QFETCH(bool, isFolder);
-    StoreFixture fixture;
-    const std::string path = fixture.settings.path();
-    if (isFolder)
-        std::filesystem::create_directories(path + "/inner");
-    else
-        QCOMPARE(::mkfifo(path.c_str(), 0600), 0);
-    fixture.store.LoadConfigFile();
-    fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
-    QCOMPARE(std::filesystem::exists(path + ".unreadable/inner"), isFolder);
-    QCOMPARE(writtenPollingRate(fixture), 1);
 }
 
 QTEST_APPLESS_MAIN(tst_storewrite)

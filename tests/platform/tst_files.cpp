@@ -1,5 +1,8 @@
 #include "platform/files.h"
 
+#include "support/filesizelimit.h"
+#include "support/unprivileged.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -30,6 +33,7 @@ private Q_SLOTS:
     void theOldFileIsReplacedNotOverwritten();
     void writingOverAFolderLeavesNothingBehind();
     void writingIntoAMissingFolderFails();
+    void aWriteThatRunsOutOfRoomKeepsTheOldFile();
     void aMissingFileIsMissing();
     void aFileBelowAFileIsMissing();
     void aFolderIsUnreadable();
@@ -37,8 +41,12 @@ private Q_SLOTS:
     void aDeviceIsUnreadable();
     void aFileOfTheMostBytesIsReadAndOneMoreIsUnreadable();
     void readingDropsWhatTheBufferHeld();
-    void filesAreMovedAsideUnderTheFirstFreeName();
-    void nothingIsMovedAsideWhenThereIsNothing();
+    void whatIsThereIsPresent();
+    void whatCannotBeToldIsPresent();
+    void aFileIsKeptUnderASecondName();
+    void aFileIsKeptUnderTheFirstFreeName();
+    void aFolderIsKeptByMovingIt();
+    void whatCannotBeKeptStaysAsItIs();
 
 private:
     std::string path(const char *name) const
@@ -49,6 +57,11 @@ private:
     {
         return QDir(m_folder->path())
             .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden | QDir::System);
+    }
+    void setFolderMode(mode_t mode) const
+    {
+        if (::chmod(m_folder->path().toLocal8Bit().constData(), mode) != 0)
+            qFatal("cannot set the permissions of the test's folder");
     }
     static std::string contents(const std::string &path)
     {
@@ -118,6 +131,19 @@ void TestFiles::writingIntoAMissingFolderFails()
     QCOMPARE(names(), QStringList());
 }
 
+void TestFiles::aWriteThatRunsOutOfRoomKeepsTheOldFile()
+{
+    QVERIFY(writeFileAtomically(path("file"), "old"));
+    bool written = true;
+    {
+        const FileSizeLimit limit(50);
+        written = writeFileAtomically(path("file"), std::string(51, 'x'));
+    }
+    QVERIFY(!written);
+    QCOMPARE(contents(path("file")), std::string("old"));
+    QCOMPARE(names(), QStringList{QStringLiteral("file")});
+}
+
 void TestFiles::aMissingFileIsMissing()
 {
     std::string bytes;
@@ -167,22 +193,79 @@ void TestFiles::readingDropsWhatTheBufferHeld()
     QCOMPARE(bytes, std::string());
 }
 
-void TestFiles::filesAreMovedAsideUnderTheFirstFreeName()
+void TestFiles::whatIsThereIsPresent()
 {
-    const char *const expected[] = {"file.old", "file.old.2", "file.old.3"};
+    QVERIFY(!isPresent(path("file")));
+    QVERIFY(writeFileAtomically(path("file"), "bytes"));
+    QVERIFY(isPresent(path("file")));
+    QVERIFY(!isPresent(path("file/below")));
+    QVERIFY(!isPresent(path("missing/file")));
+    QVERIFY(isPresent(m_folder->path().toStdString()));
+    QCOMPARE(::symlink("nowhere", path("link").c_str()), 0);
+    QVERIFY(isPresent(path("link")));
+}
+
+void TestFiles::whatCannotBeToldIsPresent()
+{
+    bool present = false;
+    setFolderMode(0);
+    {
+        const Unprivileged nobody;
+        present = isPresent(path("file"));
+    }
+    setFolderMode(0700);
+    QVERIFY(present);
+}
+
+void TestFiles::aFileIsKeptUnderASecondName()
+{
+    QVERIFY(writeFileAtomically(path("file"), "old"));
+    QCOMPARE(keepBeside(path("file"), ".old").value_or(""), path("file.old"));
+    QCOMPARE(names(), (QStringList{QStringLiteral("file"), QStringLiteral("file.old")}));
+    QCOMPARE(contents(path("file")), std::string("old"));
+    QCOMPARE(contents(path("file.old")), std::string("old"));
+
+    QVERIFY(writeFileAtomically(path("file"), "new"));
+    QCOMPARE(contents(path("file.old")), std::string("old"));
+}
+
+void TestFiles::aFileIsKeptUnderTheFirstFreeName()
+{
+    const char *const expected[] = {"file.old", "file.old.2", "file.old.4"};
+    QCOMPARE(::symlink("nowhere", path("file.old.3").c_str()), 0); // taken by what leads nowhere
     for (const char *const name : expected) {
         QVERIFY(writeFileAtomically(path("file"), name));
-        QCOMPARE(moveAside(path("file"), ".old").value_or(""), path(name));
+        QCOMPARE(keepBeside(path("file"), ".old").value_or(""), path(name));
     }
     for (const char *const name : expected)
         QCOMPARE(contents(path(name)), std::string(name));
-    QCOMPARE(names().size(), 3);
+    QCOMPARE(names().size(), 5);
 }
 
-void TestFiles::nothingIsMovedAsideWhenThereIsNothing()
+void TestFiles::aFolderIsKeptByMovingIt()
 {
-    QVERIFY(!moveAside(path("file"), ".old"));
+    QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("folder/inner")));
+    QCOMPARE(keepBeside(path("folder"), ".old").value_or(""), path("folder.old"));
+    QCOMPARE(names(), QStringList{QStringLiteral("folder.old")});
+    QVERIFY(isPresent(path("folder.old/inner")));
+}
+
+void TestFiles::whatCannotBeKeptStaysAsItIs()
+{
+    QVERIFY(!keepBeside(path("file"), ".old")); // nothing there
     QCOMPARE(names(), QStringList());
+
+    QVERIFY(writeFileAtomically(path("file"), "bytes"));
+    std::optional<std::string> kept;
+    setFolderMode(0555);
+    {
+        const Unprivileged nobody;
+        kept = keepBeside(path("file"), ".old");
+    }
+    setFolderMode(0700);
+    QVERIFY(!kept);
+    QCOMPARE(names(), QStringList{QStringLiteral("file")});
+    QCOMPARE(contents(path("file")), std::string("bytes"));
 }
 
 QTEST_GUILESS_MAIN(TestFiles)
