@@ -124,6 +124,13 @@ class Stage:
                                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         wait_for(lambda: "window id" in self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                  "the window manager")
+        # It says that it is there before its event loop runs: it is once it answers requests.
+        for desktop in ("1", "0"):
+            wait_for(lambda: self.is_on_desktop(desktop), f"the window manager on {desktop}")
+
+    def is_on_desktop(self, number):
+        self.output("xdotool", "set_desktop", number)
+        return self.output("xdotool", "get_desktop").strip() == number
 
     def add_process(self, process):
         self.programs.append(process)
