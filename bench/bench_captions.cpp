@@ -16,7 +16,7 @@ void captionsOfAProfile(benchmark::State &state)
     ProfileInfo &profile = m_Config.PROFILE[0];
     for (MacroInfo &macro : profile.MACRO)
         SetText(macro.MACRO_NAME, "Opener, then the long rotation");
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const FunctionCode code : kCodes)
             benchmark::DoNotOptimize(functions::caption(code, profile));
     }
@@ -26,7 +26,7 @@ void captionsOfAProfile(benchmark::State &state)
 void everyCode(benchmark::State &state)
 {
     constexpr FunctionCode end = 0x8000;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (FunctionCode code = 0; code < end; ++code)
             benchmark::DoNotOptimize(functions::gameCommand(code));
     }

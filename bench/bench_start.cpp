@@ -14,7 +14,7 @@ void startToWindow(benchmark::State &state, const char *program, WindowClock::Un
         return;
     }
     double resident = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const auto result = clock.measure(program, until);
         state.SetIterationTime(result.milliseconds / 1000);
         resident = static_cast<double>(result.residentKib);

@@ -120,7 +120,7 @@ private:
     void assign(HoverButton *button, FunctionCode code);
     void DisplayButtonListBox(int buttonid);
     void ButtonListboxAction(pngListBox *sender);
-    void closeChosenList(QPointer<custumwindow> list);
+    void closeChosenList(const QPointer<custumwindow> &list);
     void CloseButtonListBox(QWidget *sender);
 
     Environment m_environment;

@@ -138,7 +138,7 @@ void MainView::ButtonListboxAction(pngListBox *sender)
     CalcMouseMemoryUsage();
 }
 
-void MainView::closeChosenList(QPointer<custumwindow> list)
+void MainView::closeChosenList(const QPointer<custumwindow> &list)
 {
     // By now another right click may have opened a new list, which stays.
     if (list && list == pListbox)

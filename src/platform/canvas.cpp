@@ -49,7 +49,8 @@ void Canvas::fill(UpRect rect, const QColor &colour)
 void Canvas::outline(UpRect rect, const QColor &colour)
 {
     m_painter.setPen(colour);
-    m_painter.drawRect(m_host.down(rect).adjusted(0, 0, -1, -1));
+    // The pen is a point wide, at every scale: its middle runs half a point inside.
+    m_painter.drawRect(QRectF(m_host.down(rect)).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 void Canvas::drawImage(const SkinImage &image, UpPoint origin, qreal opacity)
