@@ -20,7 +20,7 @@ private Q_SLOTS:
     void theRightButtonDragsNothing();
     void theWindowIsBorderlessAndSeeThrough();
     void anAttachedWindowIsATool();
-    void theContentFillsTheWindow();
+    void theContentFillsTheWindowAtEverySize();
     void centringPutsTheWindowIntoTheMiddleOfTheScreen();
     void aCloseRequestIsSentInPlaceOfClosing();
     void withoutACloseRequestTheWindowCloses();
@@ -173,7 +173,7 @@ void tst_custumwindow::anAttachedWindowIsATool()
     QCOMPARE(window.parentWidget(), &owner);
 }
 
-void tst_custumwindow::theContentFillsTheWindow()
+void tst_custumwindow::theContentFillsTheWindowAtEverySize()
 {
     WindowStage stage;
     QPointer<View> content = new View(nullptr);
@@ -181,6 +181,8 @@ void tst_custumwindow::theContentFillsTheWindow()
     QCOMPARE(content->parentWidget(), &stage.window);
     QCOMPARE(content->geometry(), QRect(0, 0, 200, 150));
     QVERIFY(content->isVisible());
+    stage.window.resize(240, 130);
+    QCOMPARE(content->geometry(), QRect(0, 0, 240, 130));
 }
 
 void tst_custumwindow::centringPutsTheWindowIntoTheMiddleOfTheScreen()

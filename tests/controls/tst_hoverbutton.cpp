@@ -1,6 +1,7 @@
 #include "controls/buttonstage.h"
 
 #include <QtGui/QHelpEvent>
+#include <QtGui/QTextDocument>
 #include <QtGui/QTextDocumentFragment>
 #include <QtWidgets/QToolTip>
 
@@ -17,7 +18,9 @@ private Q_SLOTS:
     void aFaceIsAPrivateCopy();
     void theCaptionIsOrangeAndWhiteWhilePressed();
     void theCaptionIsCentred();
-    void aLongCaptionIsCutAndToldInAToolTip();
+    void aLongCaptionIsCutInsideTheButton();
+    void theToolTipTellsACutCaptionAsItStands_data();
+    void theToolTipTellsACutCaptionAsItStands();
     void theCaptionIsToldToAssistiveTechnology();
 };
 
@@ -33,6 +36,13 @@ QColor faceAfter(const Steps &steps)
     stage.setAllFaces();
     steps(stage);
     return stage.face();
+}
+
+/// A tool tip as its reader sees it: what looks like rich text is shown as such.
+QString asShown(const QString &toolTip)
+{
+    return Qt::mightBeRichText(toolTip) ? QTextDocumentFragment::fromHtml(toolTip).toPlainText()
+                                        : toolTip;
 }
 
 /// A row: steps, and the face that they lead to.
@@ -162,22 +172,39 @@ void tst_hoverbutton::theCaptionIsCentred()
     QVERIFY(qAbs(off.x()) <= 1 && qAbs(off.y()) <= 2);
 }
 
-void tst_hoverbutton::aLongCaptionIsCutAndToldInAToolTip()
+void tst_hoverbutton::aLongCaptionIsCutInsideTheButton()
 {
     ButtonStage stage;
-    const auto toolTipOver = [&](const QString &caption) {
-        QToolTip::hideText();
-        stage.button.setCaptionText(caption);
-        QHelpEvent help(QEvent::ToolTip, {10, 10}, stage.button.mapToGlobal(QPoint(10, 10)));
-        QApplication::sendEvent(&stage.button, &help);
-        return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
-    };
-    QCOMPARE(toolTipOver(QStringLiteral("Short")), QString());
-    QCOMPARE(toolTipOver(QStringLiteral("A caption <b>far</b> too long for its button")),
-             QStringLiteral("A caption <b>far</b> too long for its button"));
+    stage.button.setCaptionText(QStringLiteral("A caption far too long for its button"));
     stage.button.setNormalImage(plainPicture(stage.button.size(), Qt::black));
     const QRect text = extentOfOther(shown(stage.button), Qt::black);
     QVERIFY(text.width() > 60 && text.left() >= 4 && text.right() < stage.button.width() - 4);
+}
+
+void tst_hoverbutton::theToolTipTellsACutCaptionAsItStands_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<bool>("told");
+    const auto row = [](const char *caption, bool told) {
+        QTest::newRow(caption) << QString::fromLatin1(caption) << told;
+    };
+    row("Short", false);
+    row("A caption far too long for its button", true);
+    row("A caption <b>far</b> too long for its button", true);
+    row("\"Block\" & 'parry', then &amp; and &lt;", true);
+    row("Many   blanks   between   the   words", true);
+}
+
+void tst_hoverbutton::theToolTipTellsACutCaptionAsItStands()
+{
+    QFETCH(QString, caption);
+    QFETCH(bool, told);
+    ButtonStage stage;
+    QToolTip::hideText();
+    stage.button.setCaptionText(caption);
+    QHelpEvent help(QEvent::ToolTip, {10, 10}, stage.button.mapToGlobal(QPoint(10, 10)));
+    QApplication::sendEvent(&stage.button, &help);
+    QCOMPARE(asShown(QToolTip::text()), told ? caption : QString());
 }
 
 void tst_hoverbutton::theCaptionIsToldToAssistiveTechnology()

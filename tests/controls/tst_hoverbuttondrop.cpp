@@ -47,6 +47,8 @@ void tst_hoverbuttondrop::aDroppedTextIsReadAsANumber_data()
     row("-3", -3);
     row("+5", 5);
     row("99999999999999999999", INT_MAX);
+    row("-2147483648", INT_MIN);
+    row("-99999999999999999999", INT_MIN);
 }
 
 void tst_hoverbuttondrop::aDroppedTextIsReadAsANumber()
@@ -79,19 +81,21 @@ void tst_hoverbuttondrop::aDropIsRefused_data()
 {
     QTest::addColumn<bool>("enabledForDrops");
     QTest::addColumn<bool>("disabled");
-    QTest::addColumn<bool>("text");
+    QTest::addColumn<QString>("format");
     QTest::addColumn<bool>("taken");
-    QTest::newRow("taken") << true << false << true << true;
-    QTest::newRow("not enabled for drops") << false << false << true << false;
-    QTest::newRow("disabled") << true << true << true << false;
-    QTest::newRow("without text") << true << false << false << false;
+    const QString text = QStringLiteral("text/plain");
+    QTest::newRow("taken") << true << false << text << true;
+    QTest::newRow("not enabled for drops") << false << false << text << false;
+    QTest::newRow("disabled") << true << true << text << false;
+    QTest::newRow("a picture") << true << false << QStringLiteral("image/png") << false;
+    QTest::newRow("a file") << true << false << QStringLiteral("text/uri-list") << false;
 }
 
 void tst_hoverbuttondrop::aDropIsRefused()
 {
     QFETCH(bool, enabledForDrops);
     QFETCH(bool, disabled);
-    QFETCH(bool, text);
+    QFETCH(QString, format);
     QFETCH(bool, taken);
     ButtonStage stage;
     ButtonStage::Clicks drops;
@@ -99,7 +103,7 @@ void tst_hoverbuttondrop::aDropIsRefused()
         stage.button.enableDragDrop({&drops, &ButtonStage::Clicks::receive});
     stage.button.setDisable(disabled);
     QMimeData data;
-    data.setData(text ? QStringLiteral("text/plain") : QStringLiteral("image/png"), "42");
+    data.setData(format, "42");
     QCOMPARE(dropOn(stage.button, data), taken);
     QCOMPARE(drops.count(), std::size_t{taken ? 1U : 0U});
     QCOMPARE(stage.button.getDropindex(), taken ? 42 : 0);

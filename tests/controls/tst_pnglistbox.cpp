@@ -244,6 +244,9 @@ void tst_pnglistbox::aStoppedWatchSendsNothing()
     Lists losses;
     stage.list.observeWindowKeyChangeStart({&losses, &Lists::receive});
     stage.list.observeWindowKeyChangeStop();
+    stage.list.setFocus();
+    stage.key(Qt::Key_Escape);
+    QCOMPARE(losses.count(), std::size_t{0});
     QWidget other;
     other.show();
     other.activateWindow();
@@ -267,6 +270,8 @@ void tst_pnglistbox::rowsStandForFunctions_data()
     row(4098, 0, 256);
     row(4098, 2, 258);
     row(4098, 49, 305);
+    for (int tag : {0, 4095, 4099, 8192, -1})
+        row(tag, 3, 0);
 }
 
 void tst_pnglistbox::rowsStandForFunctions()

@@ -12,6 +12,8 @@ private Q_SLOTS:
     void theTextStandsAtItsSide_data();
     void theTextStandsAtItsSide();
     void theTextStandsBelowTheTopOfItsRow();
+    void aTextTooLongIsCutAtTheEndOfItsStrip();
+    void aClearedListIsBlack();
 };
 
 namespace {
@@ -93,6 +95,31 @@ void tst_pnglistboxlooks::theTextStandsBelowTheTopOfItsRow()
         // The strip is shorter by 3 at its top; the text begins there.
         QVERIFY(text.height() > 4 && text.top() >= 3 && text.bottom() < 22);
     }
+}
+
+void tst_pnglistboxlooks::aTextTooLongIsCutAtTheEndOfItsStrip()
+{
+    ListStage stage;
+    const auto withRow = [&](const QString &text) {
+        stage.list.clearAll();
+        stage.list.AddString({});
+        stage.list.AddString(text);
+        return shown(stage.list);
+    };
+    const QString beginning = QStringLiteral("Whirling strike of the northern wind");
+    const QImage cut = withRow(beginning);
+    const QRect text = extentOfOther(cut, Qt::black);
+    QVERIFY(text.top() >= 20 && text.bottom() < 40 && text.width() > 60);
+    // Centred, a text that is not cut would lose its beginning with every word more.
+    QCOMPARE(withRow(beginning + QStringLiteral(" and of the southern sea")), cut);
+}
+
+void tst_pnglistboxlooks::aClearedListIsBlack()
+{
+    ListStage stage;
+    stage.list.setcursel(1);
+    stage.list.clearAll();
+    QVERIFY(extentOfOther(shown(stage.list), Qt::black).isEmpty());
 }
 
 QTEST_MAIN(tst_pnglistboxlooks)

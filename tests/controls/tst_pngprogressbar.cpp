@@ -2,8 +2,7 @@
 #include "support/pointer.h"
 #include "support/receiver.h"
 
-#include <QtGui/QWheelEvent>
-#include <QtWidgets/QApplication>
+#include <QtGui/QAccessible>
 
 /// The bar drawn from two pictures, and the slider that it can be.
 class tst_pngprogressbar : public QObject
@@ -26,6 +25,8 @@ private Q_SLOTS:
     void theWheelMovesTheBar();
     void aFixedBarIgnoresTheUser();
     void aFixedBarIsNotInTheTabOrder();
+    void assistiveTechnologyMovesTheBarWhereTheUserMay_data();
+    void assistiveTechnologyMovesTheBarWhereTheUserMay();
 };
 
 namespace {
@@ -42,14 +43,6 @@ struct BarStage
         window.show();
         if (!QTest::qWaitForWindowActive(&window))
             qFatal("the window does not come up");
-    }
-
-    void turnWheel(int angle)
-    {
-        const QPoint at = bar.rect().center();
-        QWheelEvent event(at, bar.mapToGlobal(at), {}, {0, angle}, Qt::NoButton, {},
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&bar, &event);
     }
 
     View window;
@@ -237,7 +230,7 @@ void tst_pngprogressbar::theWheelMovesTheBar()
 {
     BarStage stage({90, 20});
     stage.bar.setPos(50);
-    stage.turnWheel(120);
+    pointer::turnWheel(stage.bar, 120);
     QVERIFY(stage.bar.getPos() > 50);
     QCOMPARE(stage.changes.senders, std::vector{&stage.bar});
 }
@@ -252,7 +245,7 @@ void tst_pngprogressbar::aFixedBarIgnoresTheUser()
     pointer::release(stage.bar, {80, 10});
     stage.bar.setFocus();
     QTest::keyClick(&stage.bar, Qt::Key_Right);
-    stage.turnWheel(120);
+    pointer::turnWheel(stage.bar, 120);
     QCOMPARE(stage.bar.getPos(), 50);
     QCOMPARE(stage.changes.count(), std::size_t{0});
 
@@ -272,6 +265,28 @@ void tst_pngprogressbar::aFixedBarIsNotInTheTabOrder()
     stage.bar.setAllowMouseChangeFlag(true);
     QTest::keyClick(stage.window.windowHandle(), Qt::Key_Tab);
     QVERIFY(stage.bar.hasFocus());
+}
+
+void tst_pngprogressbar::assistiveTechnologyMovesTheBarWhereTheUserMay_data()
+{
+    QTest::addColumn<bool>("allowed");
+    QTest::newRow("allowed") << true;
+    QTest::newRow("fixed") << false;
+}
+
+void tst_pngprogressbar::assistiveTechnologyMovesTheBarWhereTheUserMay()
+{
+    QFETCH(bool, allowed);
+    BarStage stage({90, 20});
+    stage.bar.setPos(50);
+    stage.bar.setAllowMouseChangeFlag(allowed);
+    auto *const told = QAccessible::queryAccessibleInterface(&stage.bar)->valueInterface();
+    QVERIFY(told);
+    QCOMPARE(told->currentValue().toInt(), 50);
+    told->setCurrentValue(30);
+    QCOMPARE(stage.bar.getPos(), allowed ? 30 : 50);
+    QCOMPARE(told->currentValue().toInt(), allowed ? 30 : 50);
+    QCOMPARE(stage.changes.count(), std::size_t{allowed ? 1U : 0U});
 }
 
 QTEST_MAIN(tst_pngprogressbar)

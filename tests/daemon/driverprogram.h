@@ -3,7 +3,7 @@
 #include "support/privatebus.h"
 
 #include <QtCore/QStringList>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 /// The driver process, run as a program on a test's bus.
 class DriverProgram

@@ -7,7 +7,7 @@
 #include "support/testsettings.h"
 
 #include <QtCore/QDir>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 using driver::RequestType;
 

@@ -72,7 +72,8 @@ class Program:
 class Stage:
     """Everything that the programs need around them."""
 
-    def __init__(self, settings=None, size="1280x1024"):
+    def __init__(self, settings=None, size="1280x1024", scale=1):
+        self.scale = scale
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="kyr-stage-"))
         self.settings = pathlib.Path(settings or self.folder / "KT7R4Setting.xml")
         self.programs = []
@@ -97,7 +98,8 @@ class Stage:
         runtime = self.folder / "runtime"
         runtime.mkdir(mode=0o700)
         return keep | {"HOME": str(self.folder), "XDG_RUNTIME_DIR": str(runtime),
-                       "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "xcb"}
+                       "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "xcb",
+                       "QT_SCALE_FACTOR": str(self.scale)}
 
     def start_display(self, size):
         read, write = os.pipe()
@@ -219,8 +221,8 @@ class Stage:
     def control_box(self, name):
         """A control's (x, y, width, height) on the screen, y downwards."""
         left, top, _, _ = self.frame(MAIN_TITLE)
-        x, y, width, height = CONTROLS[name]
-        return left + x, top + VIEW_HEIGHT - y - height, width, height
+        x, y, width, height = (self.scale * length for length in CONTROLS[name])
+        return left + x, top + self.scale * VIEW_HEIGHT - y - height, width, height
 
     def click_control(self, name, button=1):
         x, y, width, height = self.control_box(name)
@@ -228,4 +230,5 @@ class Stage:
 
     def click_list_row(self, row):
         x, y, width, _ = self.frame(LIST_TITLE)
-        self.click(x + width // 2, y + row * ROW_HEIGHT + ROW_HEIGHT // 2)
+        height = self.scale * ROW_HEIGHT
+        self.click(x + width // 2, y + row * height + height // 2)

@@ -11,17 +11,23 @@ from stage import LIST_TITLE, MAIN_TITLE, VIEW_HEIGHT, Stage, wait_for
 PROGRAMS = pathlib.Path(sys.argv.pop(1)).resolve()
 TOOLS = pathlib.Path(sys.argv.pop(1)).resolve()
 MOUSE_BUTTON_4_ROW = 3
+LIST_HEIGHT = 140
 ROWS = ((0, 1), (1, 2), (2, 3), (3, 4), (4, 5), (5, 6), (6, 9))
 
 
-class MainJob(unittest.TestCase):
+class RunningPrograms(unittest.TestCase):
+    """Both programs on a stage, and what a player does with them."""
+
     def setUp(self):
-        self.stage = Stage()
+        self.stage = self.new_stage()
         self.addCleanup(self.stage.close)
         self.driver = self.stage.start(PROGRAMS / "kt7r4d", "--settings", self.stage.settings,
                                        "--state-dir", self.stage.folder / "state")
         self.driver.wait_for_line("ready")
         self.start_utility()
+
+    def new_stage(self):
+        return Stage()
 
     def start_utility(self):
         self.utility = self.stage.start(TOOLS / "kyrgm_at", self.stage.settings)
@@ -47,10 +53,18 @@ class MainJob(unittest.TestCase):
     def taken(self):
         return [line for line in self.driver.lines() if "BUTTON_1=" in line]
 
+    def wait_for_list_under(self, button):
+        x, y, width, height = self.stage.control_box(button)
+        place = (x, y + height, width, self.stage.scale * LIST_HEIGHT)
+        wait_for(lambda: self.stage.window(LIST_TITLE) and self.stage.frame(LIST_TITLE) == place,
+                 f"the list under {button}")
+
     def told_to_mouse(self, *arguments):
         return self.stage.output("dbus-send", "--session", "--print-reply",
                                  "--dest=org.kt7r4.Driver", "/org/kt7r4/Driver", *arguments)
 
+
+class MainJob(RunningPrograms):
     def test_an_applied_assignment_reaches_file_and_driver(self):
         self.assign()
         wait_for(self.apply_changed, "an enabled Apply")
@@ -115,9 +129,7 @@ class MainJob(unittest.TestCase):
     def test_the_list_opens_under_its_button(self):
         for button in ("Button1", "Button5", "Button13"):
             self.open_list(button)
-            x, y, width, height = self.stage.control_box(button)
-            wait_for(lambda: self.stage.frame(LIST_TITLE) == (x, y + height, width, 140),
-                     f"the list under {button}")
+            self.wait_for_list_under(button)
 
     def test_a_click_elsewhere_closes_the_list(self):
         self.open_list("Button5")
@@ -142,12 +154,28 @@ class MainJob(unittest.TestCase):
         self.stage.click_control("ButtonApply")
         self.driver.wait_for_line("BUTTON_5=4")
 
+    def test_a_button_is_reached_selected_and_assigned_by_keyboard(self):
+        box = self.stage.control_box("Button2")
+        faces = [self.stage.pixels(box)]
+        # The window gives the keyboard to its first button, which does not show it.
+        for key in ("Tab", "space"):
+            self.stage.key(key)
+            wait_for(lambda: self.stage.pixels(box) not in faces, f"another face after {key}")
+            faces.append(self.stage.pixels(box))
+        self.stage.key("Menu")
+        self.stage.wait_for_active(LIST_TITLE)
+        self.wait_for_list_under("Button2")
+        for key in ("Down", "Return"):
+            self.stage.key(key)
+        self.stage.wait_for_no_window(LIST_TITLE)
+        self.stage.wait_for_active(MAIN_TITLE)
+        self.stage.click_control("ButtonApply")
+        self.driver.wait_for_line("BUTTON_2=1")
+
     def test_another_right_click_opens_a_new_list(self):
         self.open_list("Button5")
         self.stage.click_control("Button3", button=3)
-        x, y, width, height = self.stage.control_box("Button3")
-        wait_for(lambda: self.stage.window(LIST_TITLE) and
-                 self.stage.frame(LIST_TITLE) == (x, y + height, width, 140), "the list moved")
+        self.wait_for_list_under("Button3")
         ids = self.stage.output("xdotool", "search", "--onlyvisible", "--name", LIST_TITLE).split()
         self.assertEqual(len(ids), 1)
 
@@ -166,9 +194,10 @@ class MainJob(unittest.TestCase):
 
     def test_a_drag_on_a_button_leaves_the_window(self):
         frame = self.stage.frame(MAIN_TITLE)
-        for button in ("ButtonOK", "ButtonApply"):  # an enabled and a disabled one
-            x, y, _, _ = self.stage.control_box(button)
-            self.stage.drag((x + 50, y + 15), (x + 20, y + 160))
+        # The last two are disabled.
+        for button in ("ButtonOK", "BtnProfile3", "ButtonApply", "ButtonRestore"):
+            x, y, width, height = self.stage.control_box(button)
+            self.stage.drag((x + width // 2, y + height // 2), (x + 5, y + 140))
         # The window answers events in order: with this one done, the drags are done too.
         self.assign()
         self.assertEqual(self.stage.frame(MAIN_TITLE), frame)
@@ -205,6 +234,24 @@ class MainJob(unittest.TestCase):
         self.stage.click_control("ButtonOK")
         self.assertEqual(self.utility.wait_for_end(), 0)
         self.assertEqual(self.file()["PROFILE_1"]["BUTTON_5"], 4)
+
+
+class FineScreen(RunningPrograms):
+    """The same on a screen of twice the resolution."""
+
+    def new_stage(self):
+        return Stage(size="1600x1400", scale=2)
+
+    def test_the_list_opens_under_its_button(self):
+        self.assertEqual(self.stage.frame(MAIN_TITLE)[2:], (2 * 654, 2 * VIEW_HEIGHT))
+        for button in ("Button1", "Button14"):
+            self.open_list(button)
+            self.wait_for_list_under(button)
+
+    def test_an_applied_assignment_reaches_the_driver(self):
+        self.assign()
+        self.stage.click_control("ButtonApply")
+        self.driver.wait_for_line("BUTTON_5=4")
 
 
 if __name__ == "__main__":

@@ -154,13 +154,15 @@ void tst_assignment::aDropGoesToTheButtonUnderThePointer()
 void tst_assignment::aDropLeavesTheSelectionAlone()
 {
     const MainWindowStage stage;
-    dropText(stage.mouseButton(9), QStringLiteral("4104"));
+    dropText(stage.mouseButton(9), QStringLiteral("16"));
     QCOMPARE(stage.buttonsOn(), std::vector<int>{});
     pointer::click(stage.mouseButton(2));
-    dropText(stage.mouseButton(9), QStringLiteral("16"));
+    dropText(stage.mouseButton(9), QStringLiteral("4104"));
     QCOMPARE(stage.buttonsOn(), std::vector{2});
     QCOMPARE(stage.view().currentButton(), 1);
-    QCOMPARE(codes(), firstCodesBut(9, 16));
+    QCOMPARE(codes(), firstCodesBut(9, kJump));
+    QCOMPARE(stage.mouseButton(9).captionText(), QStringLiteral("Jump"));
+    QCOMPARE(stage.mouseButton(2).captionText(), QStringLiteral("Right-Click"));
 }
 
 void tst_assignment::theDroppedNumberIsTakenAsItComes_data()

@@ -1,6 +1,5 @@
-#include "dialogs/PopupProgressBar.h"
+#include "progressstage.h"
 #include "support/drop.h"
-#include "support/mainwindow.h"
 
 /// What the reports of the driver process do to the main view.
 class tst_driverreports : public QObject
@@ -18,34 +17,11 @@ private Q_SLOTS:
     void progressIsIgnoredWhileNoWindowShowsIt();
     void progressMovesTheBar_data();
     void progressMovesTheBar();
-    void theProgressWindowCanBeShownAgain();
-    void theProgressWindowIsPlacedOnceAndKept();
     void firmwareAndLiftDistanceAreKept_data();
     void firmwareAndLiftDistanceAreKept();
     void aReportUnderAnotherObjectIsNotReceived();
     void reportsAfterTheEndGoNowhere();
 };
-
-namespace {
-
-struct ReportStage : MainWindowStage
-{
-    void progress(const QVariant &position)
-    {
-        report("Kt7R4WriteToDeviceChange", "PosNumber", position);
-    }
-    custumwindow *progressWindow() const
-    {
-        return window().findChild<custumwindow *>(QStringLiteral("pPopUpBarWindow"));
-    }
-    const PopupProgressBar &progressView() const
-    {
-        return *progressWindow()->findChild<PopupProgressBar *>();
-    }
-    bool showsProgress() const { return progressWindow() && progressWindow()->isVisible(); }
-};
-
-} // namespace
 
 void tst_driverreports::aProfileReportShowsThatProfile_data()
 {
@@ -70,7 +46,7 @@ void tst_driverreports::aProfileReportShowsThatProfile()
 {
     QFETCH(QVariant, number);
     QFETCH(int, key);
-    ReportStage stage;
+    ProgressStage stage;
     for (unsigned index = 0; index < kProfileCount; ++index)
         m_Config.PROFILE[index].BUTTON[6] = 32 + index;
     stage.reportProfile(number);
@@ -92,7 +68,7 @@ void tst_driverreports::aProfileReportWithoutANumberDoesNothing_data()
 void tst_driverreports::aProfileReportWithoutANumberDoesNothing()
 {
     QFETCH(QVariantMap, userInfo);
-    ReportStage stage;
+    ProgressStage stage;
     stage.reportProfile(3);
     stage.center.post(QStringLiteral("QuarnsetKt7R4"), QStringLiteral("Kt7R4ProfileChange"),
                       userInfo);
@@ -102,7 +78,7 @@ void tst_driverreports::aProfileReportWithoutANumberDoesNothing()
 
 void tst_driverreports::aProfileReportSavesAndAsksNothing()
 {
-    ReportStage stage;
+    ProgressStage stage;
     dropText(stage.mouseButton(3), QStringLiteral("11"));
     stage.reportProfile(2);
     QCOMPARE(stage.profileKeysOn(), std::vector{2});
@@ -122,7 +98,7 @@ void tst_driverreports::aProfileReportKeepsTheChangeMark_data()
 void tst_driverreports::aProfileReportKeepsTheChangeMark()
 {
     QFETCH(bool, changed);
-    ReportStage stage;
+    ProgressStage stage;
     if (changed)
         dropText(stage.mouseButton(3), QStringLiteral("11"));
     stage.reportProfile(2);
@@ -131,7 +107,7 @@ void tst_driverreports::aProfileReportKeepsTheChangeMark()
 
 void tst_driverreports::progressIsIgnoredWhileNoWindowShowsIt()
 {
-    ReportStage stage;
+    ProgressStage stage;
     stage.progress(50);
     stage.progress(100);
     QVERIFY(!stage.progressWindow());
@@ -168,7 +144,7 @@ void tst_driverreports::progressMovesTheBar()
 {
     QFETCH(QVariant, position);
     QFETCH(int, shown);
-    ReportStage stage;
+    ProgressStage stage;
     stage.view().DisplayWriteDeviceBar();
     stage.progress(10);
     stage.progress(position);
@@ -176,35 +152,6 @@ void tst_driverreports::progressMovesTheBar()
     const auto *const bar = stage.progressView().findChild<pngProgressBar *>();
     QCOMPARE(bar->getPos(), shown);
     QTEST(stage.showsProgress(), "open");
-}
-
-void tst_driverreports::theProgressWindowCanBeShownAgain()
-{
-    ReportStage stage;
-    stage.view().DisplayWriteDeviceBar();
-    stage.progress(100);
-    QVERIFY(!stage.showsProgress());
-    stage.view().DisplayWriteDeviceBar();
-    QVERIFY(stage.showsProgress());
-    stage.progress(20);
-    QCOMPARE(stage.progressView().progressPos(), 20);
-    const QString name = QStringLiteral("pPopUpBarWindow");
-    QCOMPARE(stage.window().findChildren<QWidget *>(name).size(), 1);
-}
-
-void tst_driverreports::theProgressWindowIsPlacedOnceAndKept()
-{
-    ReportStage stage;
-    stage.view().DisplayWriteDeviceBar();
-    custumwindow *const window = stage.progressWindow();
-    QCOMPARE(window->size(), QSize(256, 74));
-    QVERIFY(!window->bCanDragWindow());
-    QVERIFY(!window->isModal());
-    const QPoint middle = QGuiApplication::primaryScreen()->geometry().center();
-    QVERIFY((window->geometry().center() - middle).manhattanLength() <= 1);
-    window->move(5, 6);
-    stage.view().DisplayWriteDeviceBar(); // shown already: only brought to front
-    QCOMPARE(window->pos(), QPoint(5, 6));
 }
 
 void tst_driverreports::firmwareAndLiftDistanceAreKept_data()
@@ -217,7 +164,7 @@ void tst_driverreports::firmwareAndLiftDistanceAreKept_data()
 void tst_driverreports::firmwareAndLiftDistanceAreKept()
 {
     QFETCH(int, value);
-    ReportStage stage;
+    ProgressStage stage;
     stage.report("Kt7R4DeviceFWVersion", "Kt7R4FWNumber", 7);
     stage.report("Kt7R4LiftDistance", "Kt7R4LiftDistance", 1);
     stage.report("Kt7R4DeviceFWVersion", "Kt7R4FWNumber", value);
@@ -233,7 +180,7 @@ void tst_driverreports::firmwareAndLiftDistanceAreKept()
 
 void tst_driverreports::aReportUnderAnotherObjectIsNotReceived()
 {
-    ReportStage stage;
+    ProgressStage stage;
     stage.report("Kt7R4Lift", "Kt7R4LiftDistance", 2);
     stage.report("", "ProfileNumber", 4);
     QCOMPARE(stage.view().liftDistance(), 0U);
@@ -242,7 +189,7 @@ void tst_driverreports::aReportUnderAnotherObjectIsNotReceived()
 
 void tst_driverreports::reportsAfterTheEndGoNowhere()
 {
-    ReportStage stage;
+    ProgressStage stage;
     stage.interface.reset();
     stage.reportProfile(4);
     stage.progress(50);

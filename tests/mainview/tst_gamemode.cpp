@@ -1,7 +1,6 @@
+#include "faces.h"
 #include "support/drop.h"
 #include "support/mainwindow.h"
-
-#include <QtWidgets/QApplication>
 
 /// The in-game mode.
 class tst_gamemode : public QObject
@@ -11,13 +10,23 @@ class tst_gamemode : public QObject
 private Q_SLOTS:
     void theCheckBoxFlipsTheMode();
     void theMouseButtonsAreDisabledWhileItIsOn();
-    void disabledMouseButtonsIgnoreEverything_data();
+    void disabledMouseButtonsShowTheirDisabledFace_data() { buttonRows(); }
+    void disabledMouseButtonsShowTheirDisabledFace();
+    void disabledMouseButtonsIgnoreEverything_data() { buttonRows(); }
     void disabledMouseButtonsIgnoreEverything();
     void nothingElseIsDisabled();
     void captionsStayCurrent();
     void theModeIsNeitherSavedNorAChange();
     void theModeIsSavedWithTheNextCommit();
     void theGaugeFollowsWithTheNextRecount();
+
+private:
+    static void buttonRows()
+    {
+        QTest::addColumn<int>("number");
+        for (int number = 1; number <= 14; ++number)
+            QTest::addRow("%d", number) << number;
+    }
 };
 
 namespace {
@@ -58,11 +67,16 @@ void tst_gamemode::theMouseButtonsAreDisabledWhileItIsOn()
     QCOMPARE(stage.enabledButtons().size(), std::size_t{14});
 }
 
-void tst_gamemode::disabledMouseButtonsIgnoreEverything_data()
+void tst_gamemode::disabledMouseButtonsShowTheirDisabledFace()
 {
-    QTest::addColumn<int>("number");
-    for (int number = 1; number <= 14; ++number)
-        QTest::addRow("%d", number) << number;
+    QFETCH(int, number);
+    const GameStage stage;
+    HoverButton &button = stage.mouseButton(number);
+    const QRect part = downward(kKnownControls[number - 1]);
+    QCOMPARE(shownFace(button), faceOf(button, "mainDis", part));
+    stage.toggle();
+    QCOMPARE(shownFace(button), faceOf(button, "mainbk", part));
+    QVERIFY(faceOf(button, "mainbk", part) != faceOf(button, "mainDis", part));
 }
 
 void tst_gamemode::disabledMouseButtonsIgnoreEverything()

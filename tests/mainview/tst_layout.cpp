@@ -1,6 +1,5 @@
-#include "mainviewcontrols.h"
+#include "faces.h"
 #include "support/mainwindow.h"
-#include "support/pictures.h"
 
 #include <QtGui/QEnterEvent>
 #include <QtWidgets/QApplication>
@@ -37,35 +36,6 @@ private:
 };
 
 namespace {
-
-const QColor kOrange(255, 180, 0);
-
-/// A picture of the skin as it was drawn, not as the program packs it.
-QPixmap skin(const char *name)
-{
-    return QPixmap(QStringLiteral(SKIN_FOLDER "/%1.png").arg(QLatin1String(name)));
-}
-
-QRect downward(const KnownControl &control)
-{
-    return {control.x, 640 - control.y - control.height, control.width, control.height};
-}
-
-/// What a face looks like on the colour that stands behind a control drawn by itself.
-QImage faceOf(const HoverButton &button, const char *picture, QRect part)
-{
-    QPixmap face(part.size());
-    face.fill(button.palette().color(QPalette::Window));
-    QPainter(&face).drawPixmap(QPoint(), skin(picture), part);
-    return face.toImage().convertToFormat(QImage::Format_ARGB32);
-}
-
-/// The face alone: a caption would stand on it.
-QImage shownFace(HoverButton &button)
-{
-    button.setCaptionText({});
-    return shown(button);
-}
 
 void enter(HoverButton &button)
 {
@@ -238,17 +208,9 @@ void tst_layout::theLabelsStandOnTheBackground()
     QFETCH(int, align);
     QFETCH(int, size);
     const MainWindowStage stage;
-    QPixmap expected = skin("mainbk");
-    QPainter painter(&expected);
-    QFont font = QApplication::font();
-    font.setPixelSize(size);
-    painter.setFont(font);
-    painter.setPen(kOrange);
-    painter.drawText(place, align | Qt::AlignTop, text);
-    painter.end();
     const QImage picture = shown(stage.view()).copy(place);
     QVERIFY(picture != skin("mainbk").toImage().convertToFormat(picture.format()).copy(place));
-    QCOMPARE(picture, expected.toImage().convertToFormat(picture.format()).copy(place));
+    QCOMPARE(picture, withText(skin("mainbk"), text, place, size, align));
 }
 
 void tst_layout::aColourLineHasItsProfilesColour_data()

@@ -1,8 +1,7 @@
 #include "model/fixedtext.h"
 #include "support/mainwindow.h"
 #include "support/pictures.h"
-
-#include <QtWidgets/QApplication>
+#include "support/skinpictures.h"
 
 /// What functions take in the mouse's memory, and the gauge that shows it.
 class tst_memory : public QObject
@@ -20,6 +19,8 @@ private Q_SLOTS:
     void aTextThatFillsItsFieldIsCountedToItsEnd();
     void theGaugeShowsTheProfile_data();
     void theGaugeShowsTheProfile();
+    void unitsAreCutDown_data();
+    void unitsAreCutDown();
     void thePercentageIsWrittenBesideTheBar_data();
     void thePercentageIsWrittenBesideTheBar();
 };
@@ -211,6 +212,24 @@ void tst_memory::theGaugeShowsTheProfile()
     QTEST(bar->getPos(), "position");
 }
 
+void tst_memory::unitsAreCutDown_data()
+{
+    QTest::addColumn<std::size_t>("doubleClicks");
+    QTest::addColumn<std::uint32_t>("usage");
+    QTest::newRow("85 bytes") << std::size_t{1} << 0U;
+    QTest::newRow("125 bytes") << std::size_t{5} << 0U;
+    QTest::newRow("135 bytes") << std::size_t{6} << 1U;
+}
+
+void tst_memory::unitsAreCutDown()
+{
+    QFETCH(std::size_t, doubleClicks);
+    MainWindowStage stage;
+    std::fill_n(m_Config.PROFILE[0].BUTTON, doubleClicks, 3U);
+    stage.reportProfile(1);
+    QTEST(stage.view().memoryUsage(), "usage");
+}
+
 void tst_memory::thePercentageIsWrittenBesideTheBar_data()
 {
     QTest::addColumn<std::size_t>("macros"); ///< of 2002 bytes, one a button
@@ -237,18 +256,8 @@ void tst_memory::thePercentageIsWrittenBesideTheBar()
         profile.BUTTON[13] = 257;
     }
     const QRect place(154, 640 - 350 - 15, 45, 15);
-    const auto expected = [&] {
-        QPixmap picture(QStringLiteral(SKIN_FOLDER "/mainbk.png"));
-        QPainter painter(&picture);
-        QFont font = QApplication::font();
-        font.setPixelSize(10);
-        painter.setFont(font);
-        painter.setPen(QColor(255, 180, 0));
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, text);
-        return picture.toImage().copy(place).convertToFormat(QImage::Format_ARGB32);
-    };
     stage.reportProfile(1);
-    QCOMPARE(shown(stage.view()).copy(place), expected());
+    QCOMPARE(shown(stage.view()).copy(place), withText(skin("mainbk"), text, place, 10));
 }
 
 QTEST_MAIN(tst_memory)

@@ -1,8 +1,7 @@
-#include "support/mainwindow.h"
+#include "quickliststage.h"
 
-#include <QtWidgets/QApplication>
-
-/// The list of basic functions that a right click opens under a mouse button.
+/// The list of basic functions that a right click opens under a mouse button: opening it, choosing
+/// from it.
 class tst_quicklist : public QObject
 {
     Q_OBJECT
@@ -22,44 +21,9 @@ private Q_SLOTS:
     void aChosenMouseButtonIsRenamedWithTheNextProfile();
     void theKeyboardChoosesToo();
     void returnWithoutARowAssignsNothing();
-    void escapeClosesTheListWithoutAChoice();
-    void theListClosesWhenItLosesTheKeyboard();
-    void thereIsOneListAtATime();
-    void theMainWindowGetsTheKeyboardBack();
-    void theProgramMayEndWithTheListOpen();
+    void choosingARowMovesTheMemoryGauge();
+    void aChoiceGoesIntoTheProfileShownByThen();
 };
-
-namespace {
-
-/// The list windows that are open. One that is closed may live a moment longer.
-std::vector<QWidget *> openLists()
-{
-    std::vector<QWidget *> lists;
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == QLatin1String("pListbox") && window->isVisible())
-            lists.push_back(window);
-    }
-    return lists;
-}
-
-struct ListStage : MainWindowStage
-{
-    /// Opens the list of a mouse button by a right click.
-    pngListBox &open(int number) const
-    {
-        pointer::rightClick(mouseButton(number));
-        if (openLists().size() != 1 || !QTest::qWaitForWindowActive(openLists().front()))
-            qFatal("the list does not open");
-        return *openLists().front()->findChild<pngListBox *>(QStringLiteral("pListboxView"));
-    }
-};
-
-void clickRow(const pngListBox &list, int row)
-{
-    pointer::click(list, {30, 20 * row + 10});
-}
-
-} // namespace
 
 void tst_quicklist::aRightClickOpensTheListUnderTheButton_data()
 {
@@ -71,7 +35,7 @@ void tst_quicklist::aRightClickOpensTheListUnderTheButton_data()
 void tst_quicklist::aRightClickOpensTheListUnderTheButton()
 {
     QFETCH(int, number);
-    const ListStage stage;
+    const QuickListStage stage;
     stage.open(number);
     const QWidget &button = stage.mouseButton(number);
     const QPoint below = button.mapToGlobal(QPoint(0, button.height()));
@@ -81,7 +45,7 @@ void tst_quicklist::aRightClickOpensTheListUnderTheButton()
 
 void tst_quicklist::theListFollowsWhereTheWindowStands()
 {
-    const ListStage stage;
+    const QuickListStage stage;
     stage.window().move(20, 10);
     stage.open(3);
     QCOMPARE(openLists().front()->geometry(),
@@ -90,7 +54,7 @@ void tst_quicklist::theListFollowsWhereTheWindowStands()
 
 void tst_quicklist::theListHasItsRows()
 {
-    const ListStage stage;
+    const QuickListStage stage;
     const pngListBox &list = stage.open(5);
     QStringList rows;
     for (int row = 0; row < list.getCount(); ++row)
@@ -105,7 +69,7 @@ void tst_quicklist::theListHasItsRows()
 
 void tst_quicklist::aRightClickSelectsTheButton()
 {
-    const ListStage stage;
+    const QuickListStage stage;
     pointer::click(stage.mouseButton(2));
     stage.open(7);
     QCOMPARE(stage.buttonsOn(), std::vector{7});
@@ -126,7 +90,7 @@ void tst_quicklist::onlyTheFirstTwoButtonsLogARightClick_data()
 void tst_quicklist::onlyTheFirstTwoButtonsLogARightClick()
 {
     QFETCH(int, number);
-    const ListStage stage;
+    const QuickListStage stage;
     stage.open(number);
     QTEST(stage.log.lines, "logged");
 }
@@ -141,7 +105,7 @@ void tst_quicklist::aRightClickElsewhereOpensNothing_data()
 void tst_quicklist::aRightClickElsewhereOpensNothing()
 {
     QFETCH(QString, name);
-    const ListStage stage;
+    const QuickListStage stage;
     pointer::rightClick(stage.button(name));
     QVERIFY(openLists().empty());
     QCOMPARE(stage.buttonsOn(), std::vector<int>{});
@@ -169,7 +133,7 @@ void tst_quicklist::choosingARowAssignsItAndClosesTheList()
 {
     QFETCH(int, row);
     QFETCH(FunctionCode, code);
-    const ListStage stage;
+    const QuickListStage stage;
     m_Config.PROFILE[0].BUTTON[4] = 0;
     clickRow(stage.open(5), row);
     QCOMPARE(m_Config.PROFILE[0].BUTTON[4], code);
@@ -184,7 +148,7 @@ void tst_quicklist::choosingARowAssignsItAndClosesTheList()
 
 void tst_quicklist::aChosenMouseButtonIsRenamedWithTheNextProfile()
 {
-    ListStage stage;
+    QuickListStage stage;
     clickRow(stage.open(5), 3);
     QCOMPARE(stage.mouseButton(5).captionText(), QStringLiteral("Mouse Button 4"));
     stage.reportProfile(1);
@@ -194,7 +158,7 @@ void tst_quicklist::aChosenMouseButtonIsRenamedWithTheNextProfile()
 
 void tst_quicklist::theKeyboardChoosesToo()
 {
-    const ListStage stage;
+    const QuickListStage stage;
     const QWidget &list = stage.open(3);
     for (Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Return})
         QTest::keyClick(pointer::windowOf(list), key);
@@ -204,7 +168,7 @@ void tst_quicklist::theKeyboardChoosesToo()
 
 void tst_quicklist::returnWithoutARowAssignsNothing()
 {
-    const ListStage stage;
+    const QuickListStage stage;
     QTest::keyClick(pointer::windowOf(stage.open(3)), Qt::Key_Return);
     QCOMPARE(m_Config.PROFILE[0].BUTTON[2], 9U);
     QCOMPARE(stage.mouseButton(3).captionText(), QStringLiteral("Disable/Clear"));
@@ -213,55 +177,28 @@ void tst_quicklist::returnWithoutARowAssignsNothing()
     QTRY_VERIFY(openLists().empty());
 }
 
-void tst_quicklist::escapeClosesTheListWithoutAChoice()
+void tst_quicklist::choosingARowMovesTheMemoryGauge()
 {
-    const ListStage stage;
-    QTest::keyClick(pointer::windowOf(stage.open(3)), Qt::Key_Escape);
-    QTRY_VERIFY(openLists().empty());
-    QCOMPARE(m_Config.PROFILE[0].BUTTON[2], 9U);
-    QVERIFY(!stage.applyIsEnabled());
-    QCOMPARE(stage.log.lines, std::vector<std::string>{"CloseListBox"});
+    QuickListStage stage;
+    std::fill_n(m_Config.PROFILE[0].BUTTON, 5, 3U); // double clicks; a sixth fills the first unit
+    stage.reportProfile(1);
+    const auto *const gauge =
+        stage.view().findChild<pngProgressBar *>(QStringLiteral("MSMemoryUsageBar"));
+    QCOMPARE(gauge->getPos(), 0);
+    clickRow(stage.open(6), 2);
+    QCOMPARE(stage.view().memoryUsage(), 1U);
+    QCOMPARE(gauge->getPos(), 1);
 }
 
-void tst_quicklist::theListClosesWhenItLosesTheKeyboard()
+void tst_quicklist::aChoiceGoesIntoTheProfileShownByThen()
 {
-    const ListStage stage;
-    stage.open(3);
-    stage.window().activateWindow();
-    QTRY_VERIFY(openLists().empty());
-    const std::vector<std::string> logged = {"windowKeyChange", "CloseListBox"};
-    QCOMPARE(stage.log.lines, logged);
-    QVERIFY(!stage.applyIsEnabled());
-}
-
-void tst_quicklist::thereIsOneListAtATime()
-{
-    const ListStage stage;
-    stage.open(3);
-    stage.open(3);
-    const pngListBox &list = stage.open(10);
-    QCOMPARE(stage.log.count("CloseListBox"), 2L);
-    clickRow(list, 0);
-    QCOMPARE(m_Config.PROFILE[0].BUTTON[9], 1U);
-    QCOMPARE(m_Config.PROFILE[0].BUTTON[2], 9U);
-    QTRY_VERIFY(openLists().empty());
-    QCOMPARE(stage.log.count("CloseListBox"), 3L);
-}
-
-void tst_quicklist::theMainWindowGetsTheKeyboardBack()
-{
-    const ListStage stage;
-    clickRow(stage.open(3), 0);
-    QTRY_VERIFY(openLists().empty());
-    QTRY_VERIFY(stage.window().isActiveWindow());
-}
-
-void tst_quicklist::theProgramMayEndWithTheListOpen()
-{
-    ListStage stage;
-    stage.open(3);
-    stage.interface.reset();
-    QVERIFY(openLists().empty());
+    QuickListStage stage;
+    const pngListBox &list = stage.open(5);
+    stage.reportProfile(3);
+    clickRow(list, 3);
+    QCOMPARE(m_Config.PROFILE[2].BUTTON[4], 4U);
+    QCOMPARE(m_Config.PROFILE[0].BUTTON[4], 9U);
+    QCOMPARE(stage.mouseButton(5).captionText(), QStringLiteral("Mouse Button 4"));
 }
 
 QTEST_MAIN(tst_quicklist)

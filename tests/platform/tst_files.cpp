@@ -5,7 +5,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <sys/stat.h>
 

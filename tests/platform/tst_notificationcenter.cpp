@@ -4,7 +4,7 @@
 
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusVariant>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <limits>
 

@@ -1,6 +1,6 @@
 #include "platform/numbers.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 class TestNumbers : public QObject
 {

@@ -2,7 +2,7 @@
 
 #include "platform/plistbounds.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <plist/plist.h>
 

@@ -1,7 +1,7 @@
 #include "platform/notificationcenter_dbus.h"
 #include "support/privatebus.h"
 
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 /// A program may post and end at once, as the utility does when it is closed.
 class TestPostAndExit : public QObject

@@ -3,7 +3,7 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryFile>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <unistd.h>
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QtGui/QWheelEvent>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
 /// The mouse as the desktop delivers it: to whatever stands at a place of a shown window, which
@@ -52,6 +54,15 @@ inline void doubleClick(const QWidget &control, QPoint at)
 inline void move(const QWidget &control, QPoint to)
 {
     QTest::mouseMove(windowOf(control), inWindow(control, to));
+}
+
+/// Turns the wheel over the middle of a control, by a step when `angle` is 120.
+inline void turnWheel(QWidget &control, int angle)
+{
+    const QPoint at = control.rect().center();
+    QWheelEvent event(at, control.mapToGlobal(at), {}, {0, angle}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&control, &event);
 }
 
 } // namespace pointer
