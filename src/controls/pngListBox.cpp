@@ -139,8 +139,9 @@ void pngListBox::mouseDown(const ViewMouseEvent &event)
     update();
 }
 
-void pngListBox::mouseUp(const ViewMouseEvent & /*event*/)
+void pngListBox::mouseUp(const ViewMouseEvent &event)
 {
+    m_releasedAt = event.event->timestamp();
     changeAction.send(this);
 }
 

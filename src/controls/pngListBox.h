@@ -31,6 +31,8 @@ public:
     /// Selects a row (-1 = none) without telling anybody.
     void setcursel(int row);
     int getcursel() const { return _currentpos; }
+    /// The time stamp of the last release of the mouse, in milliseconds; 0 before the first.
+    quint64 releasedAt() const { return m_releasedAt; }
 
     /// Colours of the texts and of the selected row, 0..255 a component; beyond that the nearest.
     void setTextColor(double red, double Green, double Blue);
@@ -87,5 +89,6 @@ private:
     bool bEnableDBClick = false;
     int m_ItemHeight = 20;
     KeyWindowWatch m_keyWatch;
+    quint64 m_releasedAt = 0;
     QPoint m_pressedAt; ///< where the left button went down, for the drag threshold
 };

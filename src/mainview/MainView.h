@@ -8,6 +8,7 @@
 #include "mainview/controltable.h"
 #include "mainview/environment.h"
 #include "model/xmlconfig.h"
+#include "platform/doubleclickguard.h"
 
 class PopupProgressBar;
 
@@ -135,6 +136,7 @@ private:
     QPointer<custumwindow> pListbox;
     QPointer<pngListBox> pListboxView;
     bool bListboxPresent = false;
+    DoubleClickGuard m_listClickGuard; ///< for those who double click a row
 
     custumwindow *pPopUpBarWindow = nullptr;
     PopupProgressBar *pPopUpBarView = nullptr;

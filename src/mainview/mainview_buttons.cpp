@@ -141,8 +141,10 @@ void MainView::ButtonListboxAction(pngListBox *sender)
 void MainView::closeChosenList(const QPointer<custumwindow> &list)
 {
     // By now another right click may have opened a new list, which stays.
-    if (list && list == pListbox)
-        CloseButtonListBox(this);
+    if (!list || list != pListbox)
+        return;
+    m_listClickGuard.arm(pListboxView->releasedAt());
+    CloseButtonListBox(this);
 }
 
 void MainView::CloseButtonListBox(QWidget * /*sender*/)

@@ -123,7 +123,9 @@ void MainView::DisplayWriteDeviceBar()
         pPopUpBarWindow->setCloseRequest({this, &MainView::closeWriteDeviceBar});
     }
     orderFront(*pPopUpBarWindow);
-    if (!bDisplayWriteDeviceWindow)
-        pPopUpBarWindow->center();
+    if (bDisplayWriteDeviceWindow)
+        return;
+    pPopUpBarWindow->center();
+    pPopUpBarView->SetProgressPos(0); // not where the last write ended
     bDisplayWriteDeviceWindow = true;
 }

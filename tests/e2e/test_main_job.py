@@ -172,6 +172,21 @@ class MainJob(RunningPrograms):
         self.stage.click_control("ButtonApply")
         self.driver.wait_for_line("BUTTON_2=1")
 
+    def test_a_double_click_on_a_row_selects_no_button_below(self):
+        below = self.stage.control_box("Button11")  # under the row
+        plain = self.stage.pixels(below)
+        self.open_list("Button5")
+        x, y, width, _ = self.stage.frame(LIST_TITLE)
+        row = y + MOUSE_BUTTON_4_ROW * 20 + 10
+        self.assertTrue(below[1] < row < below[1] + below[3])
+        self.stage.move_to(x + width // 2, row)
+        self.stage.output("xdotool", "click", "--repeat", "2", "--delay", "80", "1")
+        self.stage.wait_for_no_window(LIST_TITLE)
+        self.stage.click_control("ButtonApply")
+        self.driver.wait_for_line("BUTTON_5=4")
+        self.stage.move_to(0, 0)
+        wait_for(lambda: self.stage.pixels(below) == plain, "an unselected button below")
+
     def test_another_right_click_opens_a_new_list(self):
         self.open_list("Button5")
         self.stage.click_control("Button3", button=3)

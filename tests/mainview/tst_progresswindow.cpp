@@ -12,6 +12,7 @@ private Q_SLOTS:
     void theWindowLeavesTheKeyboardWhereItIs();
     void shownAlreadyTheWindowIsRaisedWhereItStands();
     void theWindowCanBeShownAgain();
+    void shownAgainTheWindowStartsFromZero();
     void closedByTheDesktopTheWindowEndsTheProgress();
 };
 
@@ -48,6 +49,16 @@ struct ShownStage : ProgressStage
 };
 
 } // namespace
+
+void tst_progresswindow::shownAgainTheWindowStartsFromZero()
+{
+    ShownStage stage;
+    stage.progress(100);
+    QVERIFY(!stage.showsProgress());
+    QCOMPARE(stage.progressView().progressPos(), 100);
+    stage.view().DisplayWriteDeviceBar();
+    QCOMPARE(stage.progressView().progressPos(), 0);
+}
 
 void tst_progresswindow::theWindowIsBorderlessAndOfItsSize()
 {
