@@ -127,12 +127,12 @@ class Stage:
         wait_for(lambda: "window id" in self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                  "the window manager")
         # It says that it is there before its event loop runs: it is once it answers requests.
-        for desktop in ("1", "0"):
-            wait_for(lambda: self.is_on_desktop(desktop), f"the window manager on {desktop}")
+        for count in ("3", "2"):
+            wait_for(lambda: self.has_desktops(count), f"a window manager with {count} desktops")
 
-    def is_on_desktop(self, number):
-        self.output("xdotool", "set_desktop", number)
-        return self.output("xdotool", "get_desktop").strip() == number
+    def has_desktops(self, count):
+        self.output("xdotool", "set_num_desktops", count)
+        return self.output("xdotool", "get_num_desktops").strip() == count
 
     def add_process(self, process):
         self.programs.append(process)
