@@ -8,6 +8,7 @@ class custumwindow;
 class KyrGMAppDelegate
 {
 public:
+    /// The main window; null when none was set or it is gone.
     custumwindow *window() const;
     void setWindow(custumwindow *window);
 

@@ -21,8 +21,10 @@ public:
     /// Fills the window with `view`, at every size; the window then owns it.
     void setContentView(View *view);
 
+    /// Whether dragging the background moves the window; at first it does not.
     bool bCanDragWindow() const { return m_bCanDragWindow; }
     void setBCanDragWindow(bool can) { m_bCanDragWindow = can; }
+    /// Where in the window the pointer was at the last press.
     UpPoint initialLocation() const { return m_initialLocation; }
     void setInitialLocation(UpPoint location) { m_initialLocation = location; }
 

@@ -37,9 +37,11 @@ public:
     /// Colours of the texts and of the selected row, 0..255 a component; beyond that the nearest.
     void setTextColor(double red, double Green, double Blue);
     void setForeColor(double red, double Green, double Blue);
+    /// Alignment of the texts in their rows.
     void setTextAlign(TextAlign align);
     /// Height of a row in points; less than 1 is taken as 1.
     void setItemHeight(int height);
+    /// Whether rows can be dragged out; only rows that stand for functions can.
     void enableDragDrop(bool enable) { bEnableDragDrop = enable; }
 
     /// Sent with the list on every release of the mouse, whether or not the selection changed.
@@ -55,6 +57,7 @@ public:
 
     /// Sends the action with the list when its window stops being the key window.
     void observeWindowKeyChangeStart(const Action<pngListBox *> &action);
+    /// Nothing is sent any more, not for the Escape key either.
     void observeWindowKeyChangeStop();
 
 protected:

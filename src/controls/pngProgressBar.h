@@ -12,11 +12,15 @@ class pngProgressBar : public ViewOf<QAbstractSlider>
 public:
     explicit pngProgressBar(QWidget *parent, UpRect frame = {});
 
+    /// The pictures of the empty and of the full bar; each keeps a private copy.
     void setBKImage(const SkinImage &image);
     void setOverImage(const SkinImage &image);
     /// 1 = horizontal, filling from the left; any other value = vertical, filling from the bottom.
     void setDirStyle(int style);
+    /// The range of positions; a maximum below the minimum is taken as the minimum.
     void setposRange(double minValue, double maxValue);
+    /// Whether the player may change it, with the mouse, the wheel or the keyboard; if not, it
+    /// takes no keyboard focus either.
     void setAllowMouseChangeFlag(bool allow);
     /// Sent with the bar after every change by the user.
     void setChangeAction(const Action<pngProgressBar *> &action) { changeAction = action; }

@@ -29,6 +29,7 @@ public:
 
     /// Makes the whole view transparent.
     void clear();
+    /// Fills a rectangle, or draws its one-point edge inside it.
     void fill(UpRect rect, const QColor &colour);
     void outline(UpRect rect, const QColor &colour);
     /// Draws `image` over what is there, its lower left corner at `origin`.

@@ -30,6 +30,7 @@ bool DoubleClickGuard::isSecondPress(const QMouseEvent &event) const
     const QPoint way = event.globalPosition().toPoint() - m_place;
     // The events' own time: a busy program may come to them late.
     const auto since = event.timestamp() - m_clickedAt;
-    return since < static_cast<quint64>(QApplication::doubleClickInterval()) &&
+    return event.button() == Qt::LeftButton &&
+           since < static_cast<quint64>(QApplication::doubleClickInterval()) &&
            way.manhattanLength() < QApplication::startDragDistance();
 }

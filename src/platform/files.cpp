@@ -92,8 +92,9 @@ ReadStatus readFile(const std::string &path, std::size_t most, std::string &byte
     bytes.clear();
     // Not blocking: opening a named pipe would otherwise wait for a writer.
     const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    // A link that leads nowhere is something, and stands for something of the user's.
     if (!descriptor.isOpen())
-        return errno == ENOENT || errno == ENOTDIR ? ReadStatus::Missing : ReadStatus::Unreadable;
+        return isPresent(path) ? ReadStatus::Unreadable : ReadStatus::Missing;
     struct stat about = {};
     if (::fstat(descriptor.number(), &about) != 0 || !S_ISREG(about.st_mode))
         return ReadStatus::Unreadable;

@@ -23,6 +23,7 @@ public:
     /// Calls `resigned` each time `window` loses the keyboard, until stop(). A watch that runs
     /// already is replaced.
     void start(QWidget *window, std::function<void()> resigned);
+    /// Nothing is called any more.
     void stop();
 
 protected:

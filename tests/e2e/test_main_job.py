@@ -187,6 +187,15 @@ class MainJob(RunningPrograms):
         self.stage.move_to(0, 0)
         wait_for(lambda: self.stage.pixels(below) == plain, "an unselected button below")
 
+    def test_a_quick_right_click_after_a_choice_opens_a_list(self):
+        self.open_list("Button5")
+        self.stage.click_list_row(MOUSE_BUTTON_4_ROW)
+        self.stage.wait_for_no_window(LIST_TITLE)
+        self.stage.output("xdotool", "click", "3")  # on button 11, which stood below the row
+        x, y, width, height = self.stage.control_box("Button11")
+        wait_for(lambda: self.stage.window(LIST_TITLE) and
+                 self.stage.frame(LIST_TITLE) == (x, y + height, width, 140), "the new list")
+
     def test_another_right_click_opens_a_new_list(self):
         self.open_list("Button5")
         self.stage.click_control("Button3", button=3)

@@ -2,11 +2,14 @@
 "Mouse Button 4", the change is applied, and the driver process takes it.
 
 usage: tour.py PROGRAMS SCREENSHOTS
+       tour.py --put-back             only puts back what a tour that was killed left aside
 
 The settings file has a fixed place, so the player's own is put aside for the while and put back as
-it was, also when the tour is interrupted or was killed the last time."""
+it was, also when the tour is interrupted. After a kill the next tour, or scripts/run, puts it back."""
 
 import contextlib
+import fcntl
+import os
 import pathlib
 import plistlib
 import signal
@@ -16,9 +19,8 @@ from stage import LIST_TITLE, Stage, wait_for
 
 SETTINGS = pathlib.Path("/Users/Shared/KT7R4/KT7R4Setting.xml")
 KEPT = SETTINGS.with_name("KT7R4Setting.xml.before-tour")
-# What stood in the file's place when the player's own was still put aside.
-LEFT_OVER = SETTINGS.with_name("KT7R4Setting.xml.interrupted-tour")
 MOUSE_BUTTON_4_ROW = 3
+INTERRUPTIONS = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT)
 
 
 def say(text):
@@ -26,15 +28,50 @@ def say(text):
 
 
 @contextlib.contextmanager
-def settings_put_aside():
-    """Renames the file away and back: not a byte of it is touched."""
-    if SETTINGS.exists():
-        SETTINGS.rename(LEFT_OVER if KEPT.exists() else KEPT)
+def only_tour():
+    """One tour at a time, whoever starts it: two would put aside each other's files."""
+    folder = os.open(SETTINGS.parent, os.O_RDONLY | os.O_DIRECTORY)
+    try:
+        fcntl.flock(folder, fcntl.LOCK_EX | fcntl.LOCK_NB)
+    except BlockingIOError:
+        sys.exit("error: another tour is being played")
     try:
         yield
     finally:
-        SETTINGS.unlink(missing_ok=True)
-        if KEPT.exists():
+        os.close(folder)
+
+
+def left_over_name():
+    """Where to keep what stood in the file's place while the player's own was still put aside."""
+    number = 1
+    while os.path.lexists(name := SETTINGS.with_name(f"{SETTINGS.name}.interrupted-tour.{number}")):
+        number += 1
+    return name
+
+
+def put_back():
+    if not os.path.lexists(KEPT):
+        return
+    if os.path.lexists(SETTINGS):
+        say(f"keeping {SETTINGS} as {SETTINGS.rename(left_over_name())}")
+    KEPT.rename(SETTINGS)
+    say(f"{SETTINGS} is back, which a tour that was killed had put aside")
+
+
+@contextlib.contextmanager
+def settings_put_aside():
+    """Renames the file away and back: not a byte of it is touched."""
+    put_back()
+    if os.path.lexists(SETTINGS):
+        SETTINGS.rename(KEPT)
+    try:
+        yield
+    finally:
+        for number in INTERRUPTIONS:
+            signal.signal(number, signal.SIG_IGN)
+        if os.path.lexists(SETTINGS):
+            SETTINGS.unlink()
+        if os.path.lexists(KEPT):
             KEPT.rename(SETTINGS)
 
 
@@ -53,7 +90,7 @@ def assign_and_apply(stage, pictures):
 
 
 def play(programs, pictures):
-    with settings_put_aside(), Stage(settings=SETTINGS) as stage:
+    with only_tour(), settings_put_aside(), Stage(settings=SETTINGS) as stage:
         say("starting kt7r4d and KyrGM on a virtual display")
         driver = stage.start(programs / "kt7r4d", "--state-dir", stage.folder / "state")
         driver.wait_for_line("ready")
@@ -71,14 +108,22 @@ def play(programs, pictures):
         say(f"the driver process took: {taken}")
 
 
-def main():
-    programs, pictures = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+def main(arguments):
+    for number in INTERRUPTIONS:
+        # Being told to end is an error like any other: what was put aside comes back.
+        signal.signal(number, lambda *_: sys.exit("interrupted"))
+    if arguments == ["--put-back"]:
+        with only_tour():
+            put_back()
+        return
+    programs, pictures = (pathlib.Path(argument).resolve() for argument in arguments)
     pictures.mkdir(parents=True, exist_ok=True)
-    # Being told to end is an error like any other: what was put aside comes back.
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit("interrupted"))
     play(programs, pictures)
-    say(f"screenshots are in {pictures.relative_to(pathlib.Path.cwd())}")
+    say(f"screenshots are in {arguments[1]}")
 
 
 if __name__ == "__main__":
-    main()
+    try:
+        main(sys.argv[1:])
+    except PermissionError as error:
+        sys.exit(f"error: the settings file cannot be put aside: {error}")

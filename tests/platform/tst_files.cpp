@@ -37,6 +37,7 @@ private Q_SLOTS:
     void aMissingFileIsMissing();
     void aFileBelowAFileIsMissing();
     void aFolderIsUnreadable();
+    void aLinkToNowhereIsUnreadable();
     void aNamedPipeIsUnreadableAtOnce();
     void aDeviceIsUnreadable();
     void aFileOfTheMostBytesIsReadAndOneMoreIsUnreadable();
@@ -161,6 +162,13 @@ void TestFiles::aFolderIsUnreadable()
 {
     std::string bytes;
     QCOMPARE(readFile(m_folder->path().toStdString(), kMost, bytes), ReadStatus::Unreadable);
+}
+
+void TestFiles::aLinkToNowhereIsUnreadable()
+{
+    QCOMPARE(::symlink("nowhere", path("link").c_str()), 0);
+    std::string bytes;
+    QCOMPARE(readFile(path("link"), kMost, bytes), ReadStatus::Unreadable);
 }
 
 void TestFiles::aNamedPipeIsUnreadableAtOnce()
