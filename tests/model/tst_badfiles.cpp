@@ -201,6 +201,8 @@ void tst_badfiles::whatIsNoReadableFileGivesDefaults_data()
     row("named pipe", [](const std::string &path) { QCOMPARE(::mkfifo(path.c_str(), 0600), 0); });
     row("device",
         [](const std::string &path) { std::filesystem::create_symlink("/dev/zero", path); });
+    row("link to nowhere",
+        [](const std::string &path) { std::filesystem::create_symlink("nowhere", path); });
     row("link in a circle",
         [](const std::string &path) { std::filesystem::create_symlink(path, path); });
     row("too large", [](const std::string &path) {
@@ -227,7 +229,6 @@ void tst_badfiles::aMissingFileGivesDefaultsWithoutAWord_data()
     QTest::newRow("no file") << QStringLiteral("/none.xml");
     QTest::newRow("no folder") << QStringLiteral("/none/none.xml");
     QTest::newRow("a file for a folder") << QStringLiteral("/KT7R4Setting.xml/none.xml");
-    QTest::newRow("a link to nowhere") << QStringLiteral("/link");
 }
 
 void tst_badfiles::aMissingFileGivesDefaultsWithoutAWord()
@@ -235,8 +236,6 @@ void tst_badfiles::aMissingFileGivesDefaultsWithoutAWord()
     QFETCH(QString, name);
     StoreFixture fixture;
     fixture.settings.put("x");
-    QVERIFY(QFile::link(QStringLiteral("nowhere"),
-                        fixture.settings.folder() + QStringLiteral("/link")));
     const auto before = entries(fixture);
     fixture.store.setConfigfileName((fixture.settings.folder() + name).toStdString());
     loadIntoZeros(fixture);

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void oneThatIsKeptIsKeptOnceThoughTheWriteFails();
     void whatIsNoFileIsKeptToo_data();
     void whatIsNoFileIsKeptToo();
+    void aLinkToNowhereIsKeptAsALink();
 };
 
 namespace {
@@ -222,6 +223,17 @@ void tst_unreadable::whatIsNoFileIsKeptToo()
     fixture.store.WriteConfigFile();
     QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
     QCOMPARE(std::filesystem::exists(path + ".unreadable/inner"), isFolder);
+    QCOMPARE(writtenPollingRate(fixture), 1);
+}
+
+void tst_unreadable::aLinkToNowhereIsKeptAsALink()
+{
+    StoreFixture fixture;
+    const std::string path = fixture.settings.path();
+    std::filesystem::create_symlink("nowhere", path);
+    fixture.store.LoadConfigFile();
+    fixture.store.WriteConfigFile();
+    QCOMPARE(std::filesystem::read_symlink(path + ".unreadable").string(), std::string("nowhere"));
     QCOMPARE(writtenPollingRate(fixture), 1);
 }
 
