@@ -1,6 +1,7 @@
 #include "model/xmlconfig.h"
 
 #include "model/fieldio.h"
+#include "platform/filepanels.h"
 #include "platform/files.h"
 #include "platform/systemlog.h"
 
@@ -10,6 +11,23 @@ namespace {
 
 /// Far above the largest settings file (every list and text full: about 10 MB).
 constexpr std::size_t kMostFileBytes = 64U << 20U;
+
+/// The type of a profile's own file.
+constexpr char kProfileFileType[] = "XML";
+
+/// The property list in a file; where there is none, `result` says why.
+std::optional<plist::Document> readPropertyList(const std::string &path, ConfigRead &result)
+{
+    std::string bytes;
+    const ReadStatus status = readFile(path, kMostFileBytes, bytes);
+    if (status != ReadStatus::Ok) {
+        result = status == ReadStatus::Missing ? ConfigRead::Missing : ConfigRead::Unreadable;
+        return {};
+    }
+    auto document = plist::Document::parse(bytes);
+    result = document ? ConfigRead::Ok : ConfigRead::NotPropertyList;
+    return document;
+}
 
 } // namespace
 
@@ -29,17 +47,12 @@ void xmlconfig::LoadConfigFile()
 
 ConfigRead xmlconfig::ReadConfigFile()
 {
-    std::string bytes;
-    const ReadStatus status = readFile(pConfigFileName, kMostFileBytes, bytes);
-    bUnreadableFile = status == ReadStatus::Unreadable;
-    if (status != ReadStatus::Ok)
-        return bUnreadableFile ? ConfigRead::Unreadable : ConfigRead::Missing;
-    const auto document = plist::Document::parse(bytes);
-    bUnreadableFile = !document;
-    if (!document)
-        return ConfigRead::NotPropertyList;
-    readDocument(document->root());
-    return ConfigRead::Ok;
+    ConfigRead result{};
+    const auto document = readPropertyList(pConfigFileName, result);
+    bUnreadableFile = result == ConfigRead::Unreadable || result == ConfigRead::NotPropertyList;
+    if (document)
+        readDocument(document->root());
+    return result;
 }
 
 void xmlconfig::readDocument(plist::Dictionary root)
@@ -48,19 +61,18 @@ void xmlconfig::readDocument(plist::Dictionary root)
     readFields(rootFields(), pConfig, &m_Config);
     for (std::uint32_t index = 0; index < kProfileCount; ++index) {
         pProfile[index] = pConfig.dictionary(numberedKey(kProfileKey, index + 1).c_str());
-        readProfile(index);
+        readProfile(pProfile[index], ProfileAt(index));
     }
     releaseDictionaries();
 }
 
-void xmlconfig::readProfile(std::uint32_t index)
+void xmlconfig::readProfile(plist::Dictionary from, ProfileInfo &profile)
 {
-    ProfileInfo &profile = ProfileAt(index);
-    readFields(profileFields(), pProfile[index], &profile);
-    pCharacterInfo = pProfile[index].dictionary(kCharacterKey);
+    readFields(profileFields(), from, &profile);
+    pCharacterInfo = from.dictionary(kCharacterKey);
     readFields(characterFields(), pCharacterInfo, &profile.CHARACTER_INFO);
     for (unsigned slot = 0; slot < kMacroCount; ++slot) {
-        pMacroInfo[slot] = pProfile[index].dictionary(numberedKey(kMacroKey, slot + 1).c_str());
+        pMacroInfo[slot] = from.dictionary(numberedKey(kMacroKey, slot + 1).c_str());
         readFields(macroFields(), pMacroInfo[slot], &profile.MACRO[slot]);
     }
 }
@@ -72,21 +84,20 @@ void xmlconfig::WriteConfigFile()
     writeFields(rootFields(), &m_Config, pConfig);
     for (std::uint32_t index = 0; index < kProfileCount; ++index) {
         pProfile[index] = pConfig.addDictionary(numberedKey(kProfileKey, index + 1).c_str());
-        buildProfile(index);
+        buildProfile(ProfileAt(index), pProfile[index]);
     }
     releaseDictionaries();
     if (!keepUnreadableFile() || !writeFileAtomically(pConfigFileName, document.toXml()))
         systemLog("write fail!");
 }
 
-void xmlconfig::buildProfile(std::uint32_t index)
+void xmlconfig::buildProfile(const ProfileInfo &profile, plist::Dictionary to)
 {
-    const ProfileInfo &profile = ProfileAt(index);
-    writeFields(profileFields(), &profile, pProfile[index]);
-    pCharacterInfo = pProfile[index].addDictionary(kCharacterKey);
+    writeFields(profileFields(), &profile, to);
+    pCharacterInfo = to.addDictionary(kCharacterKey);
     writeFields(characterFields(), &profile.CHARACTER_INFO, pCharacterInfo);
     for (unsigned slot = 0; slot < kMacroCount; ++slot) {
-        pMacroInfo[slot] = pProfile[index].addDictionary(numberedKey(kMacroKey, slot + 1).c_str());
+        pMacroInfo[slot] = to.addDictionary(numberedKey(kMacroKey, slot + 1).c_str());
         writeFields(macroFields(), &profile.MACRO[slot], pMacroInfo[slot]);
     }
 }
@@ -111,6 +122,49 @@ void xmlconfig::releaseDictionaries()
     pProfile = {};
     pMacroInfo = {};
     pCharacterInfo = {};
+}
+
+bool xmlconfig::ExportProfile(std::uint32_t index)
+{
+    if (!pFilePanels)
+        return false;
+    const auto number = &ProfileAt(index) - m_Config.PROFILE;
+    const auto path = pFilePanels->savePanel("Export Profile", "Profile" + std::to_string(number),
+                                             kProfileFileType);
+    if (path)
+        WriteProfileToFile(index, *path);
+    return path.has_value();
+}
+
+bool xmlconfig::ImportProfile(std::uint32_t index)
+{
+    if (!pFilePanels)
+        return false;
+    const auto path = pFilePanels->openPanel("Import Profile", kProfileFileType);
+    if (path)
+        ReadProfileFromFile(index, *path);
+    return path.has_value();
+}
+
+void xmlconfig::WriteProfileToFile(std::uint32_t index, const std::string &filename)
+{
+    const plist::Document document;
+    buildProfile(ProfileAt(index), document.root());
+    releaseDictionaries();
+    if (!writeFileAtomically(filename, document.toXml()))
+        systemLog("write fail!");
+}
+
+void xmlconfig::ReadProfileFromFile(std::uint32_t index, const std::string &filename)
+{
+    ConfigRead result{};
+    const auto document = readPropertyList(filename, result);
+    if (!document) {
+        systemLog("%s cannot be read as a profile", filename.c_str());
+        return;
+    }
+    readProfile(document->root(), ProfileAt(index));
+    releaseDictionaries();
 }
 
 void xmlconfig::InitialConfigData()

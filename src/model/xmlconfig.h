@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+class FilePanels;
+
 /// The path of the settings file, as given to xmlconfig::setConfigfileName().
 extern std::string pConfigFileName;
 
@@ -20,12 +22,16 @@ enum class ConfigRead {
 };
 
 /// The settings store: copies m_Config to and from the settings file, an XML property list that the
-/// driver process reads too. User-interface thread only.
+/// driver process reads too, and single profiles to and from files of the user's. User-interface
+/// thread only.
 class xmlconfig
 {
 public:
     /// Keeps a copy of the path of the settings file.
     void setConfigfileName(const std::string &path);
+    /// Who asks for the files of single profiles; outlives the store. Without one (null) every
+    /// question counts as cancelled.
+    void setFilePanels(FilePanels *panels) { pFilePanels = panels; }
 
     /// Reads the file into m_Config, or puts the first-start defaults when it cannot be read; then
     /// nothing is written. Missing keys read as 0, the empty text and the empty list.
@@ -41,6 +47,26 @@ public:
     /// that fails nothing is written.
     void WriteConfigFile();
 
+    /// Asks where to and writes one profile (0-based; an index above 9 is taken as the first
+    /// profile) as WriteProfileToFile() does. The name offered counts from 0 as well. False when
+    /// cancelled; true otherwise, also when the write failed.
+    bool ExportProfile(std::uint32_t index);
+
+    /// Asks for a file and reads it into one profile as ReadProfileFromFile() does. False when
+    /// cancelled; true otherwise, also when the file could not be read.
+    bool ImportProfile(std::uint32_t index);
+
+    /// Writes one profile to a file of its own in one step: a property list whose root is what the
+    /// settings file has under "PROFILE_1". On failure logs "write fail!", and what was at the path
+    /// stays.
+    void WriteProfileToFile(std::uint32_t index, const std::string &filename);
+
+    /// Replaces the whole of one profile by what the file's root dictionary holds; missing keys
+    /// read as 0, the empty text and the empty list, so a property list of something else empties
+    /// the profile. A file that cannot be read, or is no property list with a dictionary at its
+    /// root, is logged and changes nothing.
+    void ReadProfileFromFile(std::uint32_t index, const std::string &filename);
+
     /// The defaults of a first start: global, sensor, lighting and button fields of all profiles.
     /// Characters and macros stay as they are.
     void InitialConfigData();
@@ -51,8 +77,8 @@ public:
 
 private:
     void readDocument(plist::Dictionary root);
-    void readProfile(std::uint32_t index);
-    void buildProfile(std::uint32_t index);
+    void readProfile(plist::Dictionary from, ProfileInfo &profile);
+    void buildProfile(const ProfileInfo &profile, plist::Dictionary to);
     bool keepUnreadableFile();
     void releaseDictionaries();
 
@@ -62,5 +88,6 @@ private:
     std::array<plist::Dictionary, kMacroCount> pMacroInfo;
     plist::Dictionary pCharacterInfo;
 
+    FilePanels *pFilePanels = nullptr;
     bool bUnreadableFile = false; ///< the file at the path is one that could not be read
 };

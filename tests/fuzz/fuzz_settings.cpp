@@ -7,12 +7,13 @@
 #include <QtTest/QTest>
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <random>
 
-/// Damaged settings files: whatever they hold, loading comes back, every text of the record is
-/// terminated UTF-8, and what was loaded can be saved and loaded again. The seeds are fixed, so a
-/// failure comes back with the same row.
+/// Damaged settings and profile files: whatever they hold, loading comes back, every text of the
+/// record is terminated UTF-8, and what was loaded can be saved and loaded again. The seeds are
+/// fixed, so a failure comes back with the same row.
 class fuzz_settings : public QObject
 {
     Q_OBJECT
@@ -20,6 +21,8 @@ class fuzz_settings : public QObject
 private Q_SLOTS:
     void aDamagedFileLeavesAValidRecord_data();
     void aDamagedFileLeavesAValidRecord();
+    void aDamagedProfileIsImportedWholeOrNotAtAll_data();
+    void aDamagedProfileIsImportedWholeOrNotAtAll();
     void aHostileFileIsDoneWithSoon_data();
     void aHostileFileIsDoneWithSoon();
 };
@@ -33,8 +36,9 @@ qsizetype below(Random &random, qsizetype limit)
     return limit > 0 ? static_cast<qsizetype>(random() % static_cast<std::uint64_t>(limit)) : 0;
 }
 
-/// A file with every key of one profile and one macro, and a few texts worth damaging.
-QByteArray sample()
+/// What a profile's dictionary holds: most keys of it and of two macros, and a few texts worth
+/// damaging.
+QByteArray profileEntries()
 {
     const QByteArray text = "<string>R\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80 &amp; &#233;</string>";
     const QByteArray events = "<string>56,1,3,56,2,0,</string>";
@@ -54,9 +58,15 @@ QByteArray sample()
         profile += plistEntry(key, plistDictionary(macro));
     for (const char *key : {"DPI_VALUE", "LED_PULSATION", "BUTTON_1", "BUTTON_14"})
         profile += plistEntry(key, integer);
+    return profile;
+}
+
+/// A settings file.
+QByteArray sample()
+{
+    const QByteArray profile = plistDictionary(profileEntries());
     return plistOf(plistEntry("PROFILE_ID", "<integer>-1</integer>") +
-                   plistEntry("PROFILE_1", plistDictionary(profile)) +
-                   plistEntry("PROFILE_10", plistDictionary(profile)));
+                   plistEntry("PROFILE_1", profile) + plistEntry("PROFILE_10", profile));
 }
 
 /// What mutations put in: bytes that end, open, count or escape something in one of the forms.
@@ -147,9 +157,9 @@ const Mutation kMutations[] = {
     },
 };
 
-QByteArray damaged(QByteArray bytes, Random &random)
+QByteArray damaged(QByteArray bytes, qsizetype mostTimes, Random &random)
 {
-    const auto times = 1 + below(random, 6);
+    const auto times = 1 + below(random, mostTimes);
     for (qsizetype i = 0; i < times && !bytes.isEmpty(); ++i)
         kMutations[below(random, std::ssize(kMutations))](bytes, random);
     return bytes;
@@ -189,16 +199,29 @@ bool survivesSaving(xmlconfig &store, const LogCapture &log)
     return isSame && isValid(m_Config) && !log.contains("write fail!");
 }
 
-} // namespace
-
-void fuzz_settings::aDamagedFileLeavesAValidRecord_data()
+void addForms(const QByteArray &text)
 {
     QTest::addColumn<QByteArray>("whole");
     QTest::addColumn<unsigned>("seed");
     for (unsigned seed = 1; seed <= 5; ++seed) {
-        QTest::addRow("text %u", seed) << sample() << seed;
-        QTest::addRow("binary %u", seed) << binaryPlist(sample()) << seed;
+        QTest::addRow("text %u", seed) << text << seed;
+        QTest::addRow("binary %u", seed) << binaryPlist(text) << seed;
     }
+}
+
+/// Whether the records are the same but for the fourth profile.
+bool isSameBesideTheFourth(const ConfigData &a, const ConfigData &b)
+{
+    const auto other = std::make_unique<ConfigData>(b);
+    other->PROFILE[3] = a.PROFILE[3];
+    return std::memcmp(&a, other.get(), sizeof a) == 0;
+}
+
+} // namespace
+
+void fuzz_settings::aDamagedFileLeavesAValidRecord_data()
+{
+    addForms(sample());
 }
 
 void fuzz_settings::aDamagedFileLeavesAValidRecord()
@@ -213,7 +236,7 @@ void fuzz_settings::aDamagedFileLeavesAValidRecord()
     store.setConfigfileName(settings.path());
     int read = 0;
     for (int file = 0; file < files; ++file) {
-        settings.put(damaged(whole, random));
+        settings.put(damaged(whole, 6, random));
         m_Config = {};
         read += store.ReadConfigFile() == ConfigRead::Ok;
         QVERIFY2(isValid(m_Config), QByteArray::number(file));
@@ -222,6 +245,36 @@ void fuzz_settings::aDamagedFileLeavesAValidRecord()
     }
     // Damage that always or never shows would test one half only.
     QVERIFY2(read > files / 50 && read < files, QByteArray::number(read));
+}
+
+void fuzz_settings::aDamagedProfileIsImportedWholeOrNotAtAll_data()
+{
+    addForms(plistOf(profileEntries()));
+}
+
+void fuzz_settings::aDamagedProfileIsImportedWholeOrNotAtAll()
+{
+    QFETCH(QByteArray, whole);
+    QFETCH(unsigned, seed);
+    constexpr int files = 300;
+    const TestSettings settings;
+    const LogCapture log;
+    Random random(seed);
+    xmlconfig store;
+    std::memset(&m_Config, 0xA5, sizeof m_Config);
+    const auto before = std::make_unique<ConfigData>(m_Config);
+    int read = 0;
+    for (int file = 0; file < files; ++file) {
+        settings.put(damaged(whole, 2, random));
+        m_Config.PROFILE[3] = before->PROFILE[3];
+        store.ReadProfileFromFile(3, settings.path());
+        const bool isUntouched = std::memcmp(&m_Config, before.get(), sizeof m_Config) == 0;
+        read += !isUntouched;
+        QVERIFY2(isUntouched || isValid(m_Config.PROFILE[3]), QByteArray::number(file));
+    }
+    QVERIFY(isSameBesideTheFourth(m_Config, *before));
+    QVERIFY2(read > files / 50 && read < files, QByteArray::number(read));
+    QCOMPARE(log.lines.size(), static_cast<std::size_t>(files - read));
 }
 
 void fuzz_settings::aHostileFileIsDoneWithSoon_data()

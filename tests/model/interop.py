@@ -111,6 +111,9 @@ class Interop(unittest.TestCase):
     def convert(self, source, target, form):
         subprocess.run([PLISTUTIL, "-i", source, "-o", target, "-f", form], check=True)
 
+    def store_exports(self, index, path):
+        subprocess.run([STORETOOL, "export", self.path, str(index), path], check=True)
+
     def assert_store_reads(self, path, settings):
         dump = subprocess.run([STORETOOL, "dump", path], check=True, capture_output=True, text=True)
         self.assertEqual(sorted(dump.stdout.splitlines()), dump_lines(settings))
@@ -150,6 +153,25 @@ class Interop(unittest.TestCase):
         with open(self.path, "wb") as file:
             plistlib.dump(settings, file, fmt=plistlib.FMT_BINARY)
         self.assert_store_reads(self.path, settings)
+
+    def test_plistlib_reads_an_exported_profile(self):
+        self.store_writes_sample()
+        for index in (0, 3, 9):
+            with self.subTest(index=index):
+                self.store_exports(index, self.other)
+                self.assertEqual(plistlib.loads(self.read(self.other), fmt=plistlib.FMT_XML),
+                                 build(sample_value)["PROFILE_%d" % (index + 1)])
+
+    def test_the_store_imports_what_plistlib_writes(self):
+        settings = build(sample_value)
+        settings["PROFILE_8"] = build(foreign_value)["PROFILE_3"]
+        for form in (plistlib.FMT_XML, plistlib.FMT_BINARY):
+            with self.subTest(form=form):
+                self.store_writes_sample()
+                with open(self.other, "wb") as file:
+                    plistlib.dump(settings["PROFILE_8"], file, fmt=form)
+                subprocess.run([STORETOOL, "import", self.path, "7", self.other], check=True)
+                self.assert_store_reads(self.path, settings)
 
     def test_other_readers_take_a_carriage_return_for_a_line_feed(self):
         # The store writes it as it is. It reads it back, as plistutil does; XML readers that keep

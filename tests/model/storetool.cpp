@@ -4,6 +4,7 @@
 #include "model/fixedtext.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string_view>
 
@@ -12,6 +13,9 @@
 /// for every key: integers as decimals, texts as the bytes in hexadecimal, event lists as
 /// "keycode/kind/delay" for every slot up to the last one that is not all zero.
 /// storetool copy FROM TO: reads a settings file and writes another.
+/// storetool export PATH INDEX PROFILE: writes one profile (0-based) of a settings file to a file
+/// of its own. storetool import PATH INDEX PROFILE: reads one profile of a settings file from a
+/// file of its own.
 
 namespace {
 
@@ -93,6 +97,11 @@ void printMember(const Key &key, Place place)
     std::putchar('\n');
 }
 
+std::uint32_t indexFrom(const char *argument)
+{
+    return static_cast<std::uint32_t>(std::strtoul(argument, nullptr, 10));
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -116,6 +125,19 @@ int main(int argc, char **argv)
         store.WriteConfigFile();
         return 0;
     }
-    std::fputs("usage: storetool write-sample PATH | dump PATH | copy FROM TO\n", stderr);
+    if (command == "export" && argc > 4) {
+        store.LoadConfigFile();
+        store.WriteProfileToFile(indexFrom(argv[3]), argv[4]);
+        return 0;
+    }
+    if (command == "import" && argc > 4) {
+        store.LoadConfigFile();
+        store.ReadProfileFromFile(indexFrom(argv[3]), argv[4]);
+        store.WriteConfigFile();
+        return 0;
+    }
+    std::fputs("usage: storetool write-sample PATH | dump PATH | copy FROM TO |\n"
+               "       export PATH INDEX PROFILE | import PATH INDEX PROFILE\n",
+               stderr);
     return 2;
 }
