@@ -1,9 +1,37 @@
 #include "controls/custumwindow.h"
 
+#include "platform/keywindow.h"
+
 #include <QtGui/QCloseEvent>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 
 #include <algorithm>
+
+namespace {
+
+/// The screen without its panels and docks.
+UpRect visibleFrame(const QWidget &window, const QScreen &screen)
+{
+    return hostOf(window).up(screen.availableGeometry());
+}
+
+/// The screen that the pointer is on; the window's own where it is on none.
+const QScreen &screenOf(const QWidget &window, QPoint pointer)
+{
+    const QScreen *const under = QGuiApplication::screenAt(pointer);
+    return under ? *under : *window.screen();
+}
+
+/// A start for something of size `length` in the middle of a span, kept inside `bounds` where it
+/// fits there.
+int centred(int start, int span, int length, int boundsStart, int boundsSpan)
+{
+    const int most = std::max(boundsStart, boundsStart + boundsSpan - length);
+    return std::clamp(start + (span - length) / 2, boundsStart, most);
+}
+
+} // namespace
 
 UpPoint draggedOrigin(UpRect frame, UpPoint location, UpPoint initialLocation, UpRect visible)
 {
@@ -12,8 +40,8 @@ UpPoint draggedOrigin(UpRect frame, UpPoint location, UpPoint initialLocation, U
     return {x, std::min(y, visible.y + visible.height - frame.height)};
 }
 
-custumwindow::custumwindow(UpRect contentRect, QWidget *owner)
-    : View(owner, Qt::FramelessWindowHint | (owner ? Qt::Tool : Qt::Window))
+custumwindow::custumwindow(UpRect contentRect, QWidget *owner, Qt::WindowType type)
+    : View(owner, Qt::FramelessWindowHint | (owner ? type : Qt::Window))
 {
     setAttribute(Qt::WA_TranslucentBackground);
     setFrame(contentRect);
@@ -36,9 +64,19 @@ void custumwindow::resizeEvent(QResizeEvent *event)
 
 void custumwindow::center()
 {
-    const UpRect visible = visibleFrame();
+    const QWidget *const owner = parentWidget();
+    const UpRect visible = visibleFrame(*this, owner ? *owner->screen() : *screen());
     setFrame({visible.x + (visible.width - width()) / 2,
               visible.y + (visible.height - height()) / 2, width(), height()});
+}
+
+void custumwindow::centerOver(const QWidget &other)
+{
+    const UpRect under = hostOf(other).up(other.geometry());
+    const UpRect visible = visibleFrame(other, *other.screen());
+    setFrame({centred(under.x, under.width, width(), visible.x, visible.width),
+              centred(under.y, under.height, height(), visible.y, visible.height), width(),
+              height()});
 }
 
 void custumwindow::mouseDown(const ViewMouseEvent &event)
@@ -50,13 +88,17 @@ void custumwindow::mouseDragged(const ViewMouseEvent &event)
 {
     if (!m_bCanDragWindow)
         return;
-    const UpRect now = frame();
     // Taken from the screen: the position within the window is that of a moment ago, when the
     // window still stood elsewhere.
-    const UpPoint pointer = hostOf(*this).up(event.event->globalPosition().toPoint());
-    const UpPoint origin = draggedOrigin(now, {pointer.x - now.x, pointer.y - now.y},
-                                         m_initialLocation, visibleFrame());
-    setFrame({origin.x, origin.y, now.width, now.height});
+    const QPoint there = event.event->globalPosition().toPoint();
+    const UpPoint pointer = hostOf(*this).up(there);
+    const UpRect own = frame();
+    custumwindow &moved = m_dragMoves ? *m_dragMoves : *this;
+    const UpRect now = moved.frame();
+    const UpPoint origin =
+        draggedOrigin(now, {pointer.x - own.x, pointer.y - own.y}, m_initialLocation,
+                      visibleFrame(*this, screenOf(*this, there)));
+    moved.setFrame({origin.x, origin.y, now.width, now.height});
 }
 
 void custumwindow::closeEvent(QCloseEvent *event)
@@ -67,7 +109,40 @@ void custumwindow::closeEvent(QCloseEvent *event)
     m_closeRequest.send();
 }
 
-UpRect custumwindow::visibleFrame() const
+void custumwindow::setTabNeighbours(custumwindow *previous, custumwindow *next)
 {
-    return hostOf(*this).up(screen()->availableGeometry());
+    m_tabPrevious = previous;
+    m_tabNext = next;
+}
+
+std::vector<QWidget *> custumwindow::tabStops() const
+{
+    std::vector<QWidget *> stops;
+    for (QWidget *at = nextInFocusChain(); at && at != this; at = at->nextInFocusChain()) {
+        if (at->window() == this && at->isVisible() && at->isEnabled() &&
+            (at->focusPolicy() & Qt::TabFocus))
+            stops.push_back(at);
+    }
+    return stops;
+}
+
+void custumwindow::enterByTab(bool first)
+{
+    const std::vector<QWidget *> stops = tabStops();
+    if (stops.empty())
+        return;
+    makeKeyAndOrderFront(*this);
+    (first ? stops.front() : stops.back())
+        ->setFocus(first ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+}
+
+bool custumwindow::focusNextPrevChild(bool next)
+{
+    custumwindow *const neighbour = next ? m_tabNext : m_tabPrevious;
+    const std::vector<QWidget *> stops = tabStops();
+    const bool atEnd = !stops.empty() && focusWidget() == (next ? stops.back() : stops.front());
+    if (!neighbour || !neighbour->isVisible() || !atEnd)
+        return View::focusNextPrevChild(next);
+    neighbour->enterByTab(next);
+    return true;
 }

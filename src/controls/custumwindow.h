@@ -3,6 +3,8 @@
 #include "platform/action.h"
 #include "platform/view.h"
 
+#include <vector>
+
 /// Where a window goes when the pointer drags it. `frame` is the window's frame on the screen,
 /// `location` and `initialLocation` the pointer now and at the press, in the window; `visible` is
 /// the screen without panels and docks. Only the top edge is limited: it never goes above
@@ -14,9 +16,9 @@ UpPoint draggedOrigin(UpRect frame, UpPoint location, UpPoint initialLocation, U
 class custumwindow : public View
 {
 public:
-    /// A window of its own, or one attached to `owner`: above it, without an entry in the task
-    /// switcher.
-    custumwindow(UpRect contentRect, QWidget *owner);
+    /// A window of its own, or one that belongs to `owner`: above it, without an entry in the task
+    /// switcher. `type` tells the desktop what such a window is: attached, or a dialog.
+    custumwindow(UpRect contentRect, QWidget *owner, Qt::WindowType type = Qt::Tool);
 
     /// Fills the window with `view`, at every size; the window then owns it.
     void setContentView(View *view);
@@ -24,6 +26,9 @@ public:
     /// Whether dragging the background moves the window; at first it does not.
     bool bCanDragWindow() const { return m_bCanDragWindow; }
     void setBCanDragWindow(bool can) { m_bCanDragWindow = can; }
+    /// Makes a drag of this window's background move `window` in its place: an attached window
+    /// takes the whole arrangement along. Null: itself again.
+    void setDragMoves(custumwindow *window) { m_dragMoves = window; }
     /// Where in the window the pointer was at the last press.
     UpPoint initialLocation() const { return m_initialLocation; }
     void setInitialLocation(UpPoint location) { m_initialLocation = location; }
@@ -31,20 +36,31 @@ public:
     /// Called in place of closing when the desktop asks the window to close.
     void setCloseRequest(const Action<> &request) { m_closeRequest = request; }
 
-    /// Puts the window into the middle of its screen.
+    /// The windows that the tab key goes on to past this window's last control, and before its
+    /// first. Without them it stays within the window.
+    void setTabNeighbours(custumwindow *previous, custumwindow *next);
+
+    /// Puts the window into the middle of its screen, or of its owner's.
     void center();
+    /// Puts the window over the middle of the window `other`, as far as its screen allows.
+    void centerOver(const QWidget &other);
 
 protected:
     void mouseDown(const ViewMouseEvent &event) override;
     void mouseDragged(const ViewMouseEvent &event) override;
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
-    UpRect visibleFrame() const;
+    std::vector<QWidget *> tabStops() const;
+    void enterByTab(bool first);
 
     QPointer<View> m_contentView;
     bool m_bCanDragWindow = false;
+    QPointer<custumwindow> m_dragMoves;
+    QPointer<custumwindow> m_tabPrevious;
+    QPointer<custumwindow> m_tabNext;
     UpPoint m_initialLocation; ///< of the pointer in the window at the last press
     Action<> m_closeRequest;
 };

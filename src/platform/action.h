@@ -13,9 +13,10 @@ class Action
 public:
     Action() = default;
 
-    /// The operation may take less special arguments than the action gives.
-    template <class Target, class... Parameters>
-    Action(Target *target, void (Target::*call)(Parameters...))
+    /// The operation may be one of a base of the target's, and take less special arguments than the
+    /// action gives.
+    template <class Target, class Owner, class... Parameters>
+    Action(Target *target, void (Owner::*call)(Parameters...))
         : m_target(target), m_call([target, call](Args... args) { (target->*call)(args...); })
     {
     }
