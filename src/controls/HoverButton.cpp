@@ -86,6 +86,10 @@ void HoverButton::enableDragDrop(const Action<HoverButton *> &action)
 
 void HoverButton::setDisable(bool disable)
 {
+    // Disabling passes the keyboard on as the tab key would, and with it the frame that shows where
+    // it is: not before a player has asked for that.
+    if (disable && hasFocus() && !m_showsFocus)
+        clearFocus();
     m_bEnableDisable = disable;
     setEnabled(!disable);
     if (!disable)
@@ -119,9 +123,9 @@ void HoverButton::rightMouseDown(const ViewMouseEvent &event)
 
 void HoverButton::focusInEvent(QFocusEvent *event)
 {
-    // A window that becomes active hands the focus to some control; only a player who moves it by
-    // key wants to see where it is.
-    if (event->reason() != Qt::ActiveWindowFocusReason)
+    // A window that becomes active hands the focus to some control, a menu that closes hands it
+    // back; only a player who moves it by key wants to see where it is.
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
         m_showsFocus =
             event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     ViewOf::focusInEvent(event);
