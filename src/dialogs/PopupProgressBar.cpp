@@ -1,5 +1,7 @@
 #include "dialogs/PopupProgressBar.h"
 
+#include "controls/faces.h"
+
 namespace {
 
 constexpr UpRect kBar{20, 18, 180, 16};
@@ -18,9 +20,7 @@ PopupProgressBar::PopupProgressBar(QWidget *parent)
     WriteToDeviceBar->setObjectName(QStringLiteral("WriteToDeviceBar"));
     WriteToDeviceBar->setAccessibleName(QStringLiteral("Progress of the on-board write"));
     WriteToDeviceBar->setFrame(kBar);
-    WriteToDeviceBar->setBKImage(SkinImage::CopyImagefromrect(BKImage, kBar));
-    WriteToDeviceBar->setOverImage(
-        SkinImage::CopyImagefromrect(SkinImage::named("Pop_UP_over"), kBar));
+    setFaces(*WriteToDeviceBar, {.normal = BKImage, .over = SkinImage::named("Pop_UP_over")}, kBar);
     WriteToDeviceBar->setposRange(0, 100);
     WriteToDeviceBar->setAllowMouseChangeFlag(false);
 }

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "controls/HoverButton.h"
+#include "controls/pngProgressBar.h"
+
+/// A window drawn in each state of its controls, whose faces are cut from these pictures. Where
+/// there is no picture its controls have no such face.
+struct Faces
+{
+    SkinImage normal = {};
+    SkinImage over = {};
+    SkinImage down = {};
+    SkinImage disabled = {};
+};
+
+/// Gives a control what the pictures show at `frame`.
+void setFaces(HoverButton &button, const Faces &faces, UpRect frame);
+/// A bar is the normal picture, the part up to its position the hover one.
+void setFaces(pngProgressBar &bar, const Faces &faces, UpRect frame);
+
+/// A button of a window, as a row of the window's table.
+struct ButtonRow
+{
+    const char *name = ""; ///< the button's object name
+    UpRect frame;
+    int tag = 0;
+    const char *caption = "";     ///< written on it; empty where the skin says it
+    const char *description = ""; ///< what it is called for assistive technology
+};
+
+/// A button in `parent`, which owns it, with its faces cut at its frame. It has no action yet.
+HoverButton *makeButton(QWidget *parent, const ButtonRow &row, const Faces &faces);
