@@ -3,7 +3,9 @@
 #include "app/interface.h"
 #include "app/KyrGMAppDelegate.h"
 #include "platform/desktop.h"
+#include "platform/desktoppanels.h"
 #include "platform/notificationcenter.h"
+#include "platform/opening.h"
 
 #include <QtWidgets/QApplication>
 
@@ -16,8 +18,9 @@ int runKyrGM(int argc, char **argv, const std::string &settingsPath)
     const auto notifications = NotificationCenter::distributed();
     // Not quit(): that asks the windows to close first, and to the main window closing means to
     // commit, which Cancel must not do.
-    const Interface interface(
-        {settingsPath, notifications.get(), [] { QCoreApplication::exit(); }});
+    DesktopPanels panels;
+    const Interface interface({settingsPath, notifications.get(), [] { QCoreApplication::exit(); },
+                               &panels, openFile, openAddress});
     KyrGMAppDelegate delegate;
     delegate.setWindow(&interface.mainWindow());
     delegate.applicationDidFinishLaunching();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/windowcontroll.h"
+#include "controls/contextmenu.h"
 #include "controls/custumwindow.h"
 #include "controls/HoverButton.h"
 #include "controls/pngListBox.h"
@@ -10,12 +12,14 @@
 #include "model/xmlconfig.h"
 #include "platform/doubleclickguard.h"
 
+#include <span>
+
 class PopupProgressBar;
 
 /// The content of the main window and the controller of the whole utility: it owns the settings
 /// store, the controls and the only link to the driver process. Profile indices are 0-based here,
 /// 1-based in the driver's messages. User-interface thread only.
-class MainView : public View
+class MainView : public View, public MainContent
 {
 public:
     MainView(Environment environment, QWidget *parent);
@@ -24,18 +28,67 @@ public:
     /// driver process and asks it for firmware version and lift distance. Writes nothing.
     void awakeFromNib() override;
 
+    /// The controller of the bars; it outlives the view's use of it. To be set before
+    /// awakeFromNib().
+    void setWindowControll(windowcontroll *controll) { pWindowControll = controll; }
+
     // Controller (mainview_controller.cpp)
 
     /// Makes a profile current, as it comes; one outside 0..9 shows and edits the first profile.
     void SetProfileID(std::int32_t index);
     /// Keeps whether there are unsaved changes, and enables Apply exactly then.
-    void setApplyButtonStatus(bool changed);
+    void setApplyButtonStatus(bool changed) override;
     /// A left click on a control, told apart by its tag.
     void buttonAction(HoverButton *sender);
     /// What the close button does: writes the settings, tells the driver process, quits.
     void commitAndQuit();
+    /// Asks whether to save changes, when there are any; true when it asked. The answer has been
+    /// acted on then.
+    bool checkProfileChange();
+    /// The answers: writes the settings, or reloads them, dropping what was not saved in any
+    /// profile.
+    void ProfileChangeYESAction();
+    void ProfileChangeNOAction();
+    /// Lets the player load a file into the current profile. The settings are written then, also
+    /// when the panel was cancelled.
+    void ImportProfile();
+    /// Lets the player save the current profile to a file.
+    void ExportProfile();
+    /// Set the polling rate, store it and write the settings.
+    void menu1000hz();
+    void menu500hz();
+    void menu250hz();
+    /// Set the lift distance, which the settings do not hold.
+    void menuLowestLift();
+    void menuLowerLift();
+    void menuDefaultLift();
+    /// Switches the warning before a macro is deleted on or off and writes the settings.
+    void MacroDeleteConfirm();
+
+    // Dialogs (mainview_dialogs.cpp)
+
     /// Shows the progress window, or brings it to front.
     void DisplayWriteDeviceBar();
+    /// Tells something in a dialog of its own; returns when that is closed.
+    void DisplayWarnOneWindow(const QString &caption, const QString &strDiaplayText);
+    /// Asks something; returns when it is answered and ProfileChangeYESAction() or
+    /// ProfileChangeNOAction() is done.
+    void DisplayWarnTwoWindow(const QString &caption, const QString &strDiaplayText);
+    /// Shows the versions of program and firmware; returns when that is closed.
+    void OpenAbout();
+
+    // Menus (mainview_menus.cpp)
+
+    /// Each pops up a menu, built anew, below its button.
+    void DisplayProfileMenu(HoverButton *sender);
+    void DisplayToolsMenu(HoverButton *sender);
+    void DisplayHelpMenu(HoverButton *sender);
+    /// Opens the user guide; a missing file is only logged.
+    void OpenuserGuide();
+    /// Opens the maker's profile page. No control calls it.
+    void OnlineStorage();
+    /// Does nothing, and no control calls it.
+    void EditGameApp() {}
 
     // Driver messages (mainview_driver.cpp)
 
@@ -59,11 +112,13 @@ public:
     /// A right click on a control.
     void buttonRightAction(HoverButton *sender);
     /// Assigns a function to the selected mouse button; nothing when none is selected.
-    void changeCurrentButtonFunction(FunctionCode code);
+    void changeCurrentButtonFunction(FunctionCode code) override;
     /// Assigns what was dropped on a mouse button, selected or not.
     void DragDropButtonAction(HoverButton *button);
     /// Shows the in-game mode and rebuilds all captions from the current profile.
-    void initButtonSetting();
+    void initButtonSetting() override;
+    /// Shows in the side panels where a function lives.
+    void findFunctionItem(FunctionCode code);
     /// Writes the caption of a code in the current profile on a button.
     void SetButtonCaption(HoverButton *button, FunctionCode functionid);
     /// The button with an id: 0..13 the mouse buttons, 4116..4125 the profile buttons; else null.
@@ -78,42 +133,62 @@ public:
     static std::uint32_t GetMacroBlockInfo(FunctionCode code);
     /// Recomputes the memory use of the current profile and moves the gauge.
     void CalcMouseMemoryUsage();
+    /// Whether a profile (0-based) can be stored in the mouse; if not, the player has been told
+    /// why.
+    bool CheckProfileNoError(std::uint32_t profile);
     /// Memory use in units of 128 bytes; 64 are 100 per cent, more is possible.
     std::uint32_t memoryUsage() const { return m_MSMemoryUsage; }
+
+    void redraw() override { update(); }
 
 protected:
     void drawRect(Canvas &canvas) override;
 
 private:
-    struct Skin;
     struct Command;
 
     // Layout
     void buildControls();
-    void AddCheckButton(const ControlRow &row, const Skin &skin);
-    void AddButton(const ControlRow &row, const Skin &skin);
-    HoverButton *addHoverButton(const ControlRow &row, const Skin &skin);
-    void addMemoryUsageBar(const ControlRow &row, const Skin &skin);
+    void AddCheckButton(const ControlRow &row, const Faces &skin);
+    void AddButton(const ControlRow &row, const Faces &skin);
+    HoverButton *addHoverButton(const ControlRow &row, const Faces &skin);
+    void addMemoryUsageBar(const ControlRow &row, const Faces &skin);
+    void orderTabs();
     HoverButton *button(ControlId id) const { return m_buttons[static_cast<std::size_t>(id)]; }
     void progessbarAction(pngProgressBar *sender);
     void DrawProfileColorLine(Canvas &canvas, unsigned index);
 
     // Controller
     static const Command *commandOf(int tag);
+    void checkProfileKey();
     void commit();
     void applyAction(HoverButton *sender);
     void cancelAction(HoverButton *sender);
     void closeAction(HoverButton *sender);
     void minimiseAction(HoverButton *sender);
     void gameModeAction(HoverButton *sender);
+    void profileAction(HoverButton *sender);
+    void restoreAction(HoverButton *sender);
+    void saveOnBoardAction(HoverButton *sender);
+    void userGuideAction(HoverButton *sender);
+    void setPollingRate(std::uint32_t code);
+    void setLiftDistance(std::uint32_t code);
 
     // Driver messages
     void observeDriver();
     void profileChanged(std::int32_t number);
     void WriteToFWChanged(std::int32_t position);
-    void closeWriteDeviceBar();
     void GetFWNumber(std::int32_t number);
     void GetLiftDistance(std::int32_t code);
+
+    // Dialogs
+    void closeWriteDeviceBar();
+    template <class Dialog>
+    Dialog *makeDialog();
+
+    // Menus
+    struct MenuRow;
+    std::vector<MenuItem> menuOf(std::span<const MenuRow> rows);
 
     // Mouse buttons
     void selectAction(HoverButton *sender);
@@ -127,6 +202,7 @@ private:
     Environment m_environment;
     driver::DriverLink m_driver;
     xmlconfig m_pXMLconfig;
+    QPointer<windowcontroll> pWindowControll;
 
     SkinImage BKImage;
     std::array<HoverButton *, kControlCount> m_buttons{};

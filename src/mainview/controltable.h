@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/uprect.h"
+#include "controls/faces.h"
 
 #include <algorithm>
 #include <array>
@@ -59,57 +59,52 @@ inline constexpr int kLastButtonTag = 0x100D;
 inline constexpr int kFirstProfileTag = 0x1014;
 inline constexpr int kLastProfileTag = 0x101D;
 
-struct ControlRow
+struct ControlRow : ButtonRow
 {
     ControlId id = {};
-    const char *name = ""; ///< the control's object name
     ControlKind kind = {};
-    UpRect frame;
-    int tag = 0;
-    const char *caption = "";     ///< written on it; empty where the skin or the profile says it
-    const char *description = ""; ///< what it is called for assistive technology
 };
 
 // clang-format off
 inline constexpr ControlRow kControlTable[] = {
-    {ControlId::Button1, "Button1", ControlKind::Check, {234, 443, 97, 27}, 0x1000, "", "Mouse button 1"},
-    {ControlId::Button2, "Button2", ControlKind::Check, {347, 443, 97, 27}, 0x1001, "", "Mouse button 2"},
-    {ControlId::Button3, "Button3", ControlKind::Check, {459, 443, 97, 27}, 0x1002, "", "Mouse button 3"},
-    {ControlId::Button4, "Button4", ControlKind::Check, {234, 415, 97, 27}, 0x1003, "", "Mouse button 4"},
-    {ControlId::Button5, "Button5", ControlKind::Check, {347, 415, 97, 27}, 0x1004, "", "Mouse button 5"},
-    {ControlId::Button6, "Button6", ControlKind::Check, {459, 415, 97, 27}, 0x1005, "", "Mouse button 6"},
-    {ControlId::Button7, "Button7", ControlKind::Check, {234, 357, 97, 27}, 0x1006, "", "Mouse button 7"},
-    {ControlId::Button8, "Button8", ControlKind::Check, {347, 357, 97, 27}, 0x1007, "", "Mouse button 8"},
-    {ControlId::Button9, "Button9", ControlKind::Check, {459, 357, 97, 27}, 0x1008, "", "Mouse button 9"},
-    {ControlId::Button10, "Button10", ControlKind::Check, {234, 328, 97, 27}, 0x1009, "", "Mouse button 10"},
-    {ControlId::Button11, "Button11", ControlKind::Check, {347, 328, 97, 27}, 0x100A, "", "Mouse button 11"},
-    {ControlId::Button12, "Button12", ControlKind::Check, {459, 328, 97, 27}, 0x100B, "", "Mouse button 12"},
-    {ControlId::Button13, "Button13", ControlKind::Check, {234, 271, 97, 27}, 0x100C, "", "Mouse button 13"},
-    {ControlId::Button14, "Button14", ControlKind::Check, {347, 271, 97, 27}, 0x100D, "", "Mouse button 14"},
-    {ControlId::ButtonOK, "ButtonOK", ControlKind::Push, {458, 289, 117, 31}, 0x1011, "OK", "OK"},
-    {ControlId::ButtonCancel, "ButtonCancel", ControlKind::Push, {458, 255, 117, 31}, 0x1012, "CANCEL", "Cancel"},
-    {ControlId::ButtonApply, "ButtonApply", ControlKind::Push, {458, 220, 117, 31}, 0x1013, "APPLY", "Apply"},
-    {ControlId::ButtonRestore, "ButtonRestore", ControlKind::Push, {214, 221, 117, 31}, 0x1031, "Restore Defaults", "Restore Defaults"},
-    {ControlId::ButtonSaveToDevice, "ButtonSaveToDevice", ControlKind::Push, {74, 305, 117, 31}, 0x1032, "Save On Board", "Save On Board"},
+    {{"Button1", {234, 443, 97, 27}, 0x1000, "", "Mouse button 1"}, ControlId::Button1, ControlKind::Check},
+    {{"Button2", {347, 443, 97, 27}, 0x1001, "", "Mouse button 2"}, ControlId::Button2, ControlKind::Check},
+    {{"Button3", {459, 443, 97, 27}, 0x1002, "", "Mouse button 3"}, ControlId::Button3, ControlKind::Check},
+    {{"Button4", {234, 415, 97, 27}, 0x1003, "", "Mouse button 4"}, ControlId::Button4, ControlKind::Check},
+    {{"Button5", {347, 415, 97, 27}, 0x1004, "", "Mouse button 5"}, ControlId::Button5, ControlKind::Check},
+    {{"Button6", {459, 415, 97, 27}, 0x1005, "", "Mouse button 6"}, ControlId::Button6, ControlKind::Check},
+    {{"Button7", {234, 357, 97, 27}, 0x1006, "", "Mouse button 7"}, ControlId::Button7, ControlKind::Check},
+    {{"Button8", {347, 357, 97, 27}, 0x1007, "", "Mouse button 8"}, ControlId::Button8, ControlKind::Check},
+    {{"Button9", {459, 357, 97, 27}, 0x1008, "", "Mouse button 9"}, ControlId::Button9, ControlKind::Check},
+    {{"Button10", {234, 328, 97, 27}, 0x1009, "", "Mouse button 10"}, ControlId::Button10, ControlKind::Check},
+    {{"Button11", {347, 328, 97, 27}, 0x100A, "", "Mouse button 11"}, ControlId::Button11, ControlKind::Check},
+    {{"Button12", {459, 328, 97, 27}, 0x100B, "", "Mouse button 12"}, ControlId::Button12, ControlKind::Check},
+    {{"Button13", {234, 271, 97, 27}, 0x100C, "", "Mouse button 13"}, ControlId::Button13, ControlKind::Check},
+    {{"Button14", {347, 271, 97, 27}, 0x100D, "", "Mouse button 14"}, ControlId::Button14, ControlKind::Check},
+    {{"ButtonOK", {458, 289, 117, 31}, 0x1011, "OK", "OK"}, ControlId::ButtonOK, ControlKind::Push},
+    {{"ButtonCancel", {458, 255, 117, 31}, 0x1012, "CANCEL", "Cancel"}, ControlId::ButtonCancel, ControlKind::Push},
+    {{"ButtonApply", {458, 220, 117, 31}, 0x1013, "APPLY", "Apply"}, ControlId::ButtonApply, ControlKind::Push},
+    {{"ButtonRestore", {214, 221, 117, 31}, 0x1031, "Restore Defaults", "Restore Defaults"}, ControlId::ButtonRestore, ControlKind::Push},
+    {{"ButtonSaveToDevice", {74, 305, 117, 31}, 0x1032, "Save On Board", "Save On Board"}, ControlId::ButtonSaveToDevice, ControlKind::Push},
     // The spacing is irregular on purpose: the skin's keys stand like that.
-    {ControlId::BtnProfile1, "BtnProfile1", ControlKind::Check, {164, 512, 42, 35}, 0x1014, "", "Profile 1"},
-    {ControlId::BtnProfile2, "BtnProfile2", ControlKind::Check, {205, 512, 42, 35}, 0x1015, "", "Profile 2"},
-    {ControlId::BtnProfile3, "BtnProfile3", ControlKind::Check, {245, 512, 42, 35}, 0x1016, "", "Profile 3"},
-    {ControlId::BtnProfile4, "BtnProfile4", ControlKind::Check, {284, 512, 42, 35}, 0x1017, "", "Profile 4"},
-    {ControlId::BtnProfile5, "BtnProfile5", ControlKind::Check, {324, 512, 42, 35}, 0x1018, "", "Profile 5"},
-    {ControlId::BtnProfile6, "BtnProfile6", ControlKind::Check, {364, 512, 42, 35}, 0x1019, "", "Profile 6"},
-    {ControlId::BtnProfile7, "BtnProfile7", ControlKind::Check, {404, 512, 42, 35}, 0x101A, "", "Profile 7"},
-    {ControlId::BtnProfile8, "BtnProfile8", ControlKind::Check, {444, 512, 42, 35}, 0x101B, "", "Profile 8"},
-    {ControlId::BtnProfile9, "BtnProfile9", ControlKind::Check, {484, 512, 42, 35}, 0x101C, "", "Profile 9"},
-    {ControlId::BtnProfile10, "BtnProfile10", ControlKind::Check, {524, 512, 42, 35}, 0x101D, "", "Profile 10"},
-    {ControlId::BtnMin, "BtnMin", ControlKind::Push, {524, 586, 23, 23}, 0x1024, "", "Minimise"},
-    {ControlId::BtnHelp, "BtnHelp", ControlKind::Push, {551, 586, 23, 23}, 0x1026, "", "User guide"},
-    {ControlId::BtnClose, "BtnClose", ControlKind::Push, {575, 586, 23, 23}, 0x1025, "", "Close"},
-    {ControlId::BtnProfileMenu, "BtnProfileMenu", ControlKind::Push, {65, 550, 60, 20}, 0x1027, "Profile", "Profile menu"},
-    {ControlId::BtnToolsMenu, "BtnToolsMenu", ControlKind::Push, {130, 550, 60, 20}, 0x1028, "Tools", "Tools menu"},
-    {ControlId::BtnHelpMenu, "BtnHelpMenu", ControlKind::Push, {195, 550, 60, 20}, 0x1029, "Help", "Help menu"},
-    {ControlId::chkGameMode, "chkGameMode", ControlKind::Check, {56, 398, 17, 17}, 0x1030, "", "Enable in-game mode"},
-    {ControlId::MSMemoryUsageBar, "MSMemoryUsageBar", ControlKind::ProgressBar, {60, 350, 90, 18}, 0x102A, "", "Mouse memory usage"},
+    {{"BtnProfile1", {164, 512, 42, 35}, 0x1014, "", "Profile 1"}, ControlId::BtnProfile1, ControlKind::Check},
+    {{"BtnProfile2", {205, 512, 42, 35}, 0x1015, "", "Profile 2"}, ControlId::BtnProfile2, ControlKind::Check},
+    {{"BtnProfile3", {245, 512, 42, 35}, 0x1016, "", "Profile 3"}, ControlId::BtnProfile3, ControlKind::Check},
+    {{"BtnProfile4", {284, 512, 42, 35}, 0x1017, "", "Profile 4"}, ControlId::BtnProfile4, ControlKind::Check},
+    {{"BtnProfile5", {324, 512, 42, 35}, 0x1018, "", "Profile 5"}, ControlId::BtnProfile5, ControlKind::Check},
+    {{"BtnProfile6", {364, 512, 42, 35}, 0x1019, "", "Profile 6"}, ControlId::BtnProfile6, ControlKind::Check},
+    {{"BtnProfile7", {404, 512, 42, 35}, 0x101A, "", "Profile 7"}, ControlId::BtnProfile7, ControlKind::Check},
+    {{"BtnProfile8", {444, 512, 42, 35}, 0x101B, "", "Profile 8"}, ControlId::BtnProfile8, ControlKind::Check},
+    {{"BtnProfile9", {484, 512, 42, 35}, 0x101C, "", "Profile 9"}, ControlId::BtnProfile9, ControlKind::Check},
+    {{"BtnProfile10", {524, 512, 42, 35}, 0x101D, "", "Profile 10"}, ControlId::BtnProfile10, ControlKind::Check},
+    {{"BtnMin", {524, 586, 23, 23}, 0x1024, "", "Minimise"}, ControlId::BtnMin, ControlKind::Push},
+    {{"BtnHelp", {551, 586, 23, 23}, 0x1026, "", "User guide"}, ControlId::BtnHelp, ControlKind::Push},
+    {{"BtnClose", {575, 586, 23, 23}, 0x1025, "", "Close"}, ControlId::BtnClose, ControlKind::Push},
+    {{"BtnProfileMenu", {65, 550, 60, 20}, 0x1027, "Profile", "Profile menu"}, ControlId::BtnProfileMenu, ControlKind::Push},
+    {{"BtnToolsMenu", {130, 550, 60, 20}, 0x1028, "Tools", "Tools menu"}, ControlId::BtnToolsMenu, ControlKind::Push},
+    {{"BtnHelpMenu", {195, 550, 60, 20}, 0x1029, "Help", "Help menu"}, ControlId::BtnHelpMenu, ControlKind::Push},
+    {{"chkGameMode", {56, 398, 17, 17}, 0x1030, "", "Enable in-game mode"}, ControlId::chkGameMode, ControlKind::Check},
+    {{"MSMemoryUsageBar", {60, 350, 90, 18}, 0x102A, "", "Mouse memory usage"}, ControlId::MSMemoryUsageBar, ControlKind::ProgressBar},
 };
 // clang-format on
 
@@ -119,6 +114,22 @@ constexpr const ControlRow &controlRow(ControlId id)
 {
     return kControlTable[static_cast<std::size_t>(id)];
 }
+
+/// The order in which the tab key goes through the controls: that of reading, block by block.
+inline constexpr ControlId kTabOrder[] = {
+    ControlId::BtnMin,         ControlId::BtnHelp,      ControlId::BtnClose,
+    ControlId::BtnProfileMenu, ControlId::BtnToolsMenu, ControlId::BtnHelpMenu,
+    ControlId::BtnProfile1,    ControlId::BtnProfile2,  ControlId::BtnProfile3,
+    ControlId::BtnProfile4,    ControlId::BtnProfile5,  ControlId::BtnProfile6,
+    ControlId::BtnProfile7,    ControlId::BtnProfile8,  ControlId::BtnProfile9,
+    ControlId::BtnProfile10,   ControlId::chkGameMode,  ControlId::ButtonSaveToDevice,
+    ControlId::Button1,        ControlId::Button2,      ControlId::Button3,
+    ControlId::Button4,        ControlId::Button5,      ControlId::Button6,
+    ControlId::Button7,        ControlId::Button8,      ControlId::Button9,
+    ControlId::Button10,       ControlId::Button11,     ControlId::Button12,
+    ControlId::Button13,       ControlId::Button14,     ControlId::ButtonRestore,
+    ControlId::ButtonOK,       ControlId::ButtonCancel, ControlId::ButtonApply,
+};
 
 consteval bool controlTableHolds()
 {
@@ -136,3 +147,12 @@ consteval bool controlTableHolds()
     return true;
 }
 static_assert(controlTableHolds(), "rows in the order of ControlId, inside the view, tags unique");
+
+consteval bool tabOrderHolds()
+{
+    return std::ranges::all_of(kControlTable, [](const ControlRow &row) {
+        const auto times = std::ranges::count(kTabOrder, row.id);
+        return times == (row.kind == ControlKind::ProgressBar ? 0 : 1);
+    });
+}
+static_assert(tabOrderHolds(), "the tab key reaches every button, once");

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+class FilePanels;
 class NotificationCenter;
 
 /// What reaches outside the process, as the main view gets it: `main` gives the real things, a test
@@ -12,4 +13,9 @@ struct Environment
     std::string settingsPath;
     NotificationCenter *notifications; ///< outlives the main view
     std::function<void()> quit;        ///< ends the program, from the event loop
+    FilePanels *panels = nullptr; ///< outlives the main view; without, every panel is cancelled
+    /// Opens a file, or an address of the web, with the desktop's default application.
+    std::function<void(const std::string &path)> openFile = [](const std::string & /*path*/) {};
+    std::function<void(const std::string &address)> openAddress =
+        [](const std::string & /*address*/) {};
 };

@@ -22,7 +22,15 @@ constexpr QuickRow kQuickRows[] = {
 
 void MainView::selectAction(HoverButton *sender)
 {
-    setCheckButton(sender, sender->tag() - kFirstButtonTag);
+    const int buttonid = sender->tag() - kFirstButtonTag;
+    setCheckButton(sender, buttonid);
+    findFunctionItem(CurrentProfile().BUTTON[buttonid]);
+}
+
+void MainView::findFunctionItem(FunctionCode code)
+{
+    if (pWindowControll)
+        pWindowControll->findFunctionItem(code);
 }
 
 void MainView::buttonRightAction(HoverButton *sender)

@@ -65,12 +65,6 @@ void MainView::WriteToFWChanged(std::int32_t position)
         closeWriteDeviceBar();
 }
 
-void MainView::closeWriteDeviceBar()
-{
-    pPopUpBarWindow->hide();
-    bDisplayWriteDeviceWindow = false;
-}
-
 void MainView::GetFWNumber(std::int32_t number)
 {
     m_FWNumber = static_cast<std::uint32_t>(number);

@@ -1,14 +1,5 @@
 #include "mainview/MainView.h"
 
-/// The four states of the whole window, from which every control's faces are cut.
-struct MainView::Skin
-{
-    SkinImage BKImage = SkinImage::named("mainbk");
-    SkinImage BKOver = SkinImage::named("mainO");
-    SkinImage BKDown = SkinImage::named("mainD");
-    SkinImage BKDisable = SkinImage::named("mainDis");
-};
-
 namespace {
 
 struct Label
@@ -36,15 +27,6 @@ UpRect profileColorLine(unsigned index)
     return {frame.x + 2, frame.y - 10, frame.width - 4, 5};
 }
 
-/// A control without a command is not offered. The profile keys go on showing the current profile:
-/// without a disabled face they keep the one they have.
-void showUnavailable(HoverButton &button, ControlKind kind)
-{
-    if (kind == ControlKind::Check)
-        button.setDisableImage({});
-    button.setDisable(true);
-}
-
 float colourComponent(std::uint32_t level)
 {
     return static_cast<float>(std::min(level, 255U)) / 255.0F;
@@ -54,8 +36,10 @@ float colourComponent(std::uint32_t level)
 
 void MainView::buildControls()
 {
-    const Skin skin;
-    BKImage = skin.BKImage;
+    // The whole window in four states: every control's faces are cut from these.
+    const Faces skin{SkinImage::named("mainbk"), SkinImage::named("mainO"),
+                     SkinImage::named("mainD"), SkinImage::named("mainDis")};
+    BKImage = skin.normal;
     for (const ControlRow &row : kControlTable) {
         switch (row.kind) {
         case ControlKind::Check:
@@ -69,51 +53,47 @@ void MainView::buildControls()
             break;
         }
     }
+    orderTabs();
 }
 
-void MainView::AddCheckButton(const ControlRow &row, const Skin &skin)
+void MainView::AddCheckButton(const ControlRow &row, const Faces &skin)
 {
     addHoverButton(row, skin)->setCheckable(true);
 }
 
-void MainView::AddButton(const ControlRow &row, const Skin &skin)
+void MainView::AddButton(const ControlRow &row, const Faces &skin)
 {
     addHoverButton(row, skin);
 }
 
-HoverButton *MainView::addHoverButton(const ControlRow &row, const Skin &skin)
+HoverButton *MainView::addHoverButton(const ControlRow &row, const Faces &skin)
 {
-    auto *const button = new HoverButton(this, row.frame);
-    button->setObjectName(QLatin1String(row.name));
-    button->setAccessibleName(QLatin1String(row.description));
-    button->setTag(row.tag);
-    button->setNormalImage(SkinImage::CopyImagefromrect(skin.BKImage, row.frame));
-    button->setHoverImage(SkinImage::CopyImagefromrect(skin.BKOver, row.frame));
-    button->setAlternateImage(SkinImage::CopyImagefromrect(skin.BKDown, row.frame));
-    button->setDisableImage(SkinImage::CopyImagefromrect(skin.BKDisable, row.frame));
-    button->setCaptionText(QLatin1String(row.caption));
+    HoverButton *const button = makeButton(this, row, skin);
     button->setAction({this, &MainView::buttonAction});
     button->setRightAction({this, &MainView::buttonRightAction});
     if (row.tag >= kFirstButtonTag && row.tag <= kLastButtonTag)
         button->enableDragDrop({this, &MainView::DragDropButtonAction});
     m_buttons[static_cast<std::size_t>(row.id)] = button;
-    if (!commandOf(row.tag))
-        showUnavailable(*button, row.kind);
     return button;
 }
 
-void MainView::addMemoryUsageBar(const ControlRow &row, const Skin &skin)
+void MainView::addMemoryUsageBar(const ControlRow &row, const Faces &skin)
 {
     MSMemoryUsageBar = new pngProgressBar(this, row.frame);
     MSMemoryUsageBar->setObjectName(QLatin1String(row.name));
     MSMemoryUsageBar->setAccessibleName(QLatin1String(row.description));
     MSMemoryUsageBar->setTag(row.tag);
     MSMemoryUsageBar->setDirStyle(1);
-    MSMemoryUsageBar->setBKImage(SkinImage::CopyImagefromrect(skin.BKImage, row.frame));
-    MSMemoryUsageBar->setOverImage(SkinImage::CopyImagefromrect(skin.BKOver, row.frame));
+    setFaces(*MSMemoryUsageBar, skin, row.frame);
     MSMemoryUsageBar->setposRange(0, kFullMemory);
     MSMemoryUsageBar->setAllowMouseChangeFlag(false);
     MSMemoryUsageBar->setChangeAction({this, &MainView::progessbarAction});
+}
+
+void MainView::orderTabs()
+{
+    for (std::size_t i = 1; i < std::size(kTabOrder); ++i)
+        setTabOrder(button(kTabOrder[i - 1]), button(kTabOrder[i]));
 }
 
 /// The gauge only shows: there is nothing that a change by the player could mean.

@@ -35,6 +35,37 @@ std::uint32_t macroBytes(const MacroInfo &macro)
     return (bytes & 0xFFFFU) != 0 ? bytes + 2 : bytes;
 }
 
+constexpr FunctionCode kFirstProfileChange = 32;
+constexpr FunctionCode kLastProfileChange = 43;
+constexpr std::uint32_t kMostLoops = 256; // although the message says "less than 256"
+
+constexpr const char *kCopyPasteError =
+    "The \"Copy & Paste\" macros found in this profile can not be saved on-board. Please delete "
+    "all "
+    "\"Copy & Paste\" macros and use a \"Text / Record Delay / No Delay\" macro modes to recreate "
+    "these macros if you want to store them on the mouse and use without the driver.";
+constexpr const char *kLoopError =
+    "Please reduce loop times of macro less than 256 times if you want to store them on the mouse "
+    "and use without the driver.";
+constexpr const char *kProfileChangeError =
+    "The Change Profile functions found in this profile can not be saved on-board. Please remove "
+    "all Change Profile functions if you want to store them on the mouse and use without the "
+    "driver.";
+
+/// Why the mouse cannot store a function of a profile; null when it can.
+const char *storingError(FunctionCode code, const ProfileInfo &profile)
+{
+    if (code >= kFirstProfileChange && code <= kLastProfileChange)
+        return kProfileChangeError;
+    const auto slot = functions::macroSlot(code);
+    if (!slot)
+        return nullptr;
+    const MacroInfo &macro = MacroAt(profile, *slot);
+    if (macro.MODE == kModeCopyPaste)
+        return kCopyPasteError;
+    return macro.MACRO_LOOP > kMostLoops ? kLoopError : nullptr;
+}
+
 } // namespace
 
 std::uint32_t MainView::GetMacroBlockInfo(FunctionCode code)
@@ -58,4 +89,17 @@ void MainView::CalcMouseMemoryUsage()
     m_MSMemoryUsage = (total * 8) >> 10U;
     MSMemoryUsageBar->setPos(static_cast<int>(m_MSMemoryUsage));
     update();
+}
+
+bool MainView::CheckProfileNoError(std::uint32_t profile)
+{
+    const ProfileInfo &checked = ProfileAt(profile);
+    for (const FunctionCode code : checked.BUTTON) {
+        const char *const error = storingError(code, checked);
+        if (!error)
+            continue;
+        DisplayWarnOneWindow(QStringLiteral("Error!"), QLatin1String(error));
+        return false;
+    }
+    return true;
 }

@@ -1,0 +1,68 @@
+#include "dialogs/AboutView.h"
+#include "dialogs/PopupProgressBar.h"
+#include "dialogs/WarnOneView.h"
+#include "dialogs/WarnTwoView.h"
+#include "mainview/MainView.h"
+
+/// A dialog in a window of its own, over the middle of the main window.
+template <class Dialog>
+Dialog *MainView::makeDialog()
+{
+    auto *const owner =
+        new custumwindow({0, 0, Dialog::kWidth, Dialog::kHeight}, window(), Qt::Dialog);
+    auto *const dialog = new Dialog(owner);
+    owner->setFixedSize(owner->size());
+    owner->setContentView(dialog);
+    owner->setBCanDragWindow(true);
+    owner->centerOver(*window());
+    return dialog;
+}
+
+void MainView::DisplayWarnOneWindow(const QString &caption, const QString &strDiaplayText)
+{
+    auto *const warning = makeDialog<WarnOneView>();
+    warning->setDisplayString(caption, strDiaplayText);
+    warning->runModal();
+}
+
+void MainView::DisplayWarnTwoWindow(const QString &caption, const QString &strDiaplayText)
+{
+    auto *const question = makeDialog<WarnTwoView>();
+    question->setDisplayString(caption, strDiaplayText);
+    question->setYESAction({this, &MainView::ProfileChangeYESAction});
+    question->setNOAction({this, &MainView::ProfileChangeNOAction});
+    question->runModal();
+}
+
+void MainView::OpenAbout()
+{
+    auto *const about = makeDialog<AboutView>();
+    about->setFWNumber(m_FWNumber);
+    about->runModal();
+}
+
+void MainView::DisplayWriteDeviceBar()
+{
+    if (!pPopUpBarWindow) {
+        pPopUpBarWindow =
+            new custumwindow({0, 0, PopupProgressBar::kWidth, PopupProgressBar::kHeight}, window());
+        pPopUpBarWindow->setFixedSize(pPopUpBarWindow->size());
+        pPopUpBarWindow->setObjectName(QStringLiteral("pPopUpBarWindow"));
+        pPopUpBarWindow->setWindowTitle(QStringLiteral("Applying profile to on-board memory..."));
+        pPopUpBarView = new PopupProgressBar(pPopUpBarWindow);
+        pPopUpBarWindow->setContentView(pPopUpBarView);
+        pPopUpBarWindow->setCloseRequest({this, &MainView::closeWriteDeviceBar});
+    }
+    orderFront(*pPopUpBarWindow);
+    if (bDisplayWriteDeviceWindow)
+        return;
+    pPopUpBarWindow->center();
+    pPopUpBarView->SetProgressPos(0); // not where the last write ended
+    bDisplayWriteDeviceWindow = true;
+}
+
+void MainView::closeWriteDeviceBar()
+{
+    pPopUpBarWindow->hide();
+    bDisplayWriteDeviceWindow = false;
+}
