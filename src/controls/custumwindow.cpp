@@ -1,12 +1,14 @@
 #include "controls/custumwindow.h"
 
 #include "platform/keywindow.h"
+#include "platform/taskswitcher.h"
 
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -53,6 +55,13 @@ void custumwindow::setContentView(View *view)
     view->setParent(this);
     view->setFrame({0, 0, width(), height()});
     view->show();
+}
+
+void custumwindow::showEvent(QShowEvent *event)
+{
+    if (windowType() == Qt::Tool && !event->spontaneous())
+        keepOutOfTaskSwitcher(*this);
+    View::showEvent(event);
 }
 
 void custumwindow::resizeEvent(QResizeEvent *event)
@@ -126,23 +135,39 @@ std::vector<QWidget *> custumwindow::tabStops() const
     return stops;
 }
 
-void custumwindow::enterByTab(bool first)
+/// Gives the keyboard to the first control, or by the way back to the last; false where none takes
+/// it.
+bool custumwindow::enterByTab(Qt::FocusReason reason)
 {
     const std::vector<QWidget *> stops = tabStops();
     if (stops.empty())
-        return;
+        return false;
+    (reason == Qt::TabFocusReason ? stops.front() : stops.back())->setFocus(Qt::OtherFocusReason);
+    // Why it has the keyboard can be told it only once the window is active.
+    m_entry = reason;
     makeKeyAndOrderFront(*this);
-    (first ? stops.front() : stops.back())
-        ->setFocus(first ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+bool custumwindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate && m_entry && focusWidget())
+        focusWidget()->setFocus(*std::exchange(m_entry, {}));
+    return View::event(event);
 }
 
 bool custumwindow::focusNextPrevChild(bool next)
 {
-    custumwindow *const neighbour = next ? m_tabNext : m_tabPrevious;
     const std::vector<QWidget *> stops = tabStops();
     const bool atEnd = !stops.empty() && focusWidget() == (next ? stops.back() : stops.front());
-    if (!neighbour || !neighbour->isVisible() || !atEnd)
-        return View::focusNextPrevChild(next);
-    neighbour->enterByTab(next);
-    return true;
+    const auto beside = [next](const custumwindow &window) {
+        return (next ? window.m_tabNext : window.m_tabPrevious).data();
+    };
+    const Qt::FocusReason reason = next ? Qt::TabFocusReason : Qt::BacktabFocusReason;
+    // A window without a control to give the keyboard to is passed by.
+    for (custumwindow *at = beside(*this); atEnd && at && at != this; at = beside(*at)) {
+        if (at->isVisible() && at->enterByTab(reason))
+            return true;
+    }
+    return View::focusNextPrevChild(next);
 }

@@ -3,6 +3,7 @@
 #include "platform/action.h"
 #include "platform/view.h"
 
+#include <optional>
 #include <vector>
 
 /// Where a window goes when the pointer drags it. `frame` is the window's frame on the screen,
@@ -48,19 +49,22 @@ public:
 protected:
     void mouseDown(const ViewMouseEvent &event) override;
     void mouseDragged(const ViewMouseEvent &event) override;
+    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     bool focusNextPrevChild(bool next) override;
+    bool event(QEvent *event) override;
 
 private:
     std::vector<QWidget *> tabStops() const;
-    void enterByTab(bool first);
+    bool enterByTab(Qt::FocusReason reason);
 
     QPointer<View> m_contentView;
     bool m_bCanDragWindow = false;
     QPointer<custumwindow> m_dragMoves;
     QPointer<custumwindow> m_tabPrevious;
     QPointer<custumwindow> m_tabNext;
-    UpPoint m_initialLocation; ///< of the pointer in the window at the last press
+    std::optional<Qt::FocusReason> m_entry; ///< the tab key's, while the window becomes active
+    UpPoint m_initialLocation;              ///< of the pointer in the window at the last press
     Action<> m_closeRequest;
 };

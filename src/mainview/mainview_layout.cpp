@@ -92,8 +92,12 @@ void MainView::addMemoryUsageBar(const ControlRow &row, const Faces &skin)
 
 void MainView::orderTabs()
 {
+    // The toolkit orders only what takes the keyboard: the view does while it heads the row.
+    setFocusPolicy(Qt::TabFocus);
+    setTabOrder(this, button(kTabOrder[0]));
     for (std::size_t i = 1; i < std::size(kTabOrder); ++i)
         setTabOrder(button(kTabOrder[i - 1]), button(kTabOrder[i]));
+    setFocusPolicy(Qt::NoFocus);
 }
 
 /// The gauge only shows: there is nothing that a change by the player could mean.

@@ -10,16 +10,16 @@ struct BarLook
     /// The handle's faces in one state of the bar.
     struct Handle
     {
-        const char *normal;
-        const char *lit; ///< under the pointer and pressed
+        const char *normal = "";
+        const char *lit = ""; ///< under the pointer and pressed
     };
 
-    const char *background;
-    const char *title;
+    const char *background = "";
+    const char *title = "";
     UpRect titleRect;
-    int toggleTag;
+    int toggleTag = 0;
     UpRect toggleRect;
-    const char *toggleDescription; ///< for assistive technology
+    const char *toggleDescription = ""; ///< for assistive technology
     Handle open;
     Handle closed;
 };
