@@ -22,6 +22,9 @@ private Q_SLOTS:
     void anAttachedWindowIsATool();
     void theContentFillsTheWindowAtEverySize();
     void centringPutsTheWindowIntoTheMiddleOfTheScreen();
+    void centringOverAWindowStaysOnTheScreen_data();
+    void centringOverAWindowStaysOnTheScreen();
+    void aWindowLargerThanTheScreenShowsItsLowerLeftCorner();
     void aCloseRequestIsSentInPlaceOfClosing();
     void withoutACloseRequestTheWindowCloses();
 };
@@ -192,6 +195,41 @@ void tst_custumwindow::centringPutsTheWindowIntoTheMiddleOfTheScreen()
     const QPoint off =
         stage.window.geometry().center() - QGuiApplication::primaryScreen()->geometry().center();
     QVERIFY(off.manhattanLength() <= 1);
+}
+
+void tst_custumwindow::centringOverAWindowStaysOnTheScreen_data()
+{
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<QPoint>("centred");
+    const int right = screenSize().width();
+    const int lower = screenSize().height();
+    // A window of 100 x 50 over one of 200 x 150.
+    QTest::newRow("in the middle") << QPoint(300, 300) << QPoint(350, 350);
+    QTest::newRow("past the left edge") << QPoint(-150, 300) << QPoint(0, 350);
+    QTest::newRow("past the right edge") << QPoint(right - 60, 300) << QPoint(right - 100, 350);
+    QTest::newRow("past the lower edge") << QPoint(300, lower - 30) << QPoint(350, lower - 50);
+    QTest::newRow("past the top") << QPoint(300, -120) << QPoint(350, 0);
+    QTest::newRow("at a corner, inside") << QPoint(0, 0) << QPoint(50, 50);
+}
+
+void tst_custumwindow::centringOverAWindowStaysOnTheScreen()
+{
+    QFETCH(QPoint, place);
+    QFETCH(QPoint, centred);
+    WindowStage stage;
+    stage.window.move(place);
+    custumwindow window{{0, 0, 100, 50}, &stage.window};
+    window.centerOver(stage.window);
+    QCOMPARE(window.geometry(), QRect(centred, QSize(100, 50)));
+}
+
+void tst_custumwindow::aWindowLargerThanTheScreenShowsItsLowerLeftCorner()
+{
+    WindowStage stage;
+    const QSize large = screenSize() + QSize(100, 60);
+    custumwindow window{{0, 0, large.width(), large.height()}, &stage.window};
+    window.centerOver(stage.window);
+    QCOMPARE(window.geometry(), QRect(QPoint(0, -60), large));
 }
 
 void tst_custumwindow::aCloseRequestIsSentInPlaceOfClosing()

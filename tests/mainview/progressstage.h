@@ -6,6 +6,9 @@
 /// The main window with what it takes to see the progress of an on-board write.
 struct ProgressStage : MainWindowStage
 {
+    using MainWindowStage::MainWindowStage;
+
+    void saveOnBoard() const { pointer::click(button("ButtonSaveToDevice")); }
     void progress(const QVariant &position)
     {
         report("Kt7R4WriteToDeviceChange", "PosNumber", position);

@@ -17,6 +17,8 @@ inline std::vector<QWidget *> openLists()
 
 struct QuickListStage : MainWindowStage
 {
+    using MainWindowStage::MainWindowStage;
+
     /// Opens the list of a mouse button by a right click.
     pngListBox &open(int number) const
     {

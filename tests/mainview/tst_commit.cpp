@@ -23,9 +23,6 @@ private Q_SLOTS:
     void cancelLosesTheChanges();
     void aFailingWriteIsLoggedAndStillTold_data() { commits(); }
     void aFailingWriteIsLoggedAndStillTold();
-    void pollingRateAndLiftDistanceAreTold_data();
-    void pollingRateAndLiftDistanceAreTold();
-    void theRequestedTypeMakesNoDifference();
 
 private:
     static void commits()
@@ -179,47 +176,6 @@ void tst_commit::aFailingWriteIsLoggedAndStillTold()
     QCOMPARE(stage.requestsSinceStart(), std::vector{takeSettings()});
     QCOMPARE(stage.quits, name == QLatin1String("ButtonApply") ? 0 : 1);
     QCOMPARE(m_Config.PROFILE[0].BUTTON[2], 11U);
-}
-
-using Send = void (*)(MainView &);
-
-void tst_commit::pollingRateAndLiftDistanceAreTold_data()
-{
-    QTest::addColumn<Send>("send");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<int>("value");
-    const auto row = [](const char *name, Send send, int type, const char *key, int value) {
-        QTest::newRow(name) << send << type << QString::fromLatin1(key) << value;
-    };
-    row(
-        "1000 Hz", [](MainView &view) { view.SendPollingrate(1); }, 2, "PollingRate", 1);
-    row(
-        "250 Hz", [](MainView &view) { view.SendPollingrate(3); }, 2, "PollingRate", 3);
-    row(
-        "lowest", [](MainView &view) { view.SendLiftDistance(0); }, 12, "SetLiftDistance", 0);
-    row(
-        "default", [](MainView &view) { view.SendLiftDistance(2); }, 12, "SetLiftDistance", 2);
-}
-
-void tst_commit::pollingRateAndLiftDistanceAreTold()
-{
-    QFETCH(Send, send);
-    QFETCH(int, type);
-    QFETCH(QString, key);
-    QFETCH(int, value);
-    const MainWindowStage stage;
-    send(stage.view());
-    const QVariantMap expected = {{QStringLiteral("Kt7R4SettingChangeType"), type}, {key, value}};
-    QCOMPARE(stage.requestsSinceStart(), std::vector{expected});
-}
-
-void tst_commit::theRequestedTypeMakesNoDifference()
-{
-    const MainWindowStage stage;
-    stage.view().PostSettingChange(0);
-    stage.view().PostSettingChange(10);
-    QCOMPARE(stage.requestsSinceStart(), (std::vector{takeSettings(), takeSettings()}));
 }
 
 QTEST_MAIN(tst_commit)

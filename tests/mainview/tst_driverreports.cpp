@@ -1,4 +1,5 @@
 #include "progressstage.h"
+#include "support/dialogs.h"
 #include "support/drop.h"
 
 /// What the reports of the driver process do to the main view.
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void progressIsIgnoredWhileNoWindowShowsIt();
     void progressMovesTheBar_data();
     void progressMovesTheBar();
+    void progressMayComeInAnyOrder();
     void firmwareAndLiftDistanceAreKept_data();
     void firmwareAndLiftDistanceAreKept();
     void aReportUnderAnotherObjectIsNotReceived();
@@ -103,6 +105,9 @@ void tst_driverreports::aProfileReportKeepsTheChangeMark()
         dropText(stage.mouseButton(3), QStringLiteral("11"));
     stage.reportProfile(2);
     QCOMPARE(stage.applyIsEnabled(), changed);
+    const DialogVisitor visitor([](const OpenDialog &question) { question.click("ButtonClose"); });
+    pointer::click(stage.profileKey(3));
+    QCOMPARE(visitor.count(), changed ? 1 : 0);
 }
 
 void tst_driverreports::progressIsIgnoredWhileNoWindowShowsIt()
@@ -111,7 +116,7 @@ void tst_driverreports::progressIsIgnoredWhileNoWindowShowsIt()
     stage.progress(50);
     stage.progress(100);
     QVERIFY(!stage.progressWindow());
-    stage.view().DisplayWriteDeviceBar();
+    stage.saveOnBoard();
     QCOMPARE(stage.progressView().progressPos(), 0);
     stage.progress(100);
     stage.progress(30); // the window is closed by now
@@ -145,13 +150,30 @@ void tst_driverreports::progressMovesTheBar()
     QFETCH(QVariant, position);
     QFETCH(int, shown);
     ProgressStage stage;
-    stage.view().DisplayWriteDeviceBar();
+    stage.saveOnBoard();
     stage.progress(10);
     stage.progress(position);
     QCOMPARE(stage.progressView().progressPos(), shown);
     const auto *const bar = stage.progressView().findChild<pngProgressBar *>();
     QCOMPARE(bar->getPos(), shown);
     QTEST(stage.showsProgress(), "open");
+}
+
+void tst_driverreports::progressMayComeInAnyOrder()
+{
+    ProgressStage stage;
+    stage.saveOnBoard();
+    for (const int position : {50, 20, 99, 0, 98}) {
+        stage.progress(position);
+        QVERIFY(stage.showsProgress());
+        QCOMPARE(stage.progressView().progressPos(), position);
+    }
+    stage.progress(INT_MAX);
+    for (const int position : {30, INT_MIN, 100}) {
+        QVERIFY(!stage.showsProgress());
+        QCOMPARE(stage.progressView().progressPos(), 100);
+        stage.progress(position);
+    }
 }
 
 void tst_driverreports::firmwareAndLiftDistanceAreKept_data()

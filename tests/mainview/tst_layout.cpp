@@ -1,5 +1,6 @@
 #include "faces.h"
 #include "support/mainwindow.h"
+#include "support/screen.h"
 
 #include <QtGui/QEnterEvent>
 #include <QtWidgets/QApplication>
@@ -29,6 +30,11 @@ private Q_SLOTS:
     void aColourLineHasItsProfilesColour_data();
     void aColourLineHasItsProfilesColour();
     void aColourLineIsAsLargeAsItsKey();
+    void aColourOutsideItsRangeIsTheBrightest();
+    void theColourLinesStandOnTheBackground();
+    void everyRedrawDrawsTheWholeView_data();
+    void everyRedrawDrawsTheWholeView();
+    void aNewColourIsDrawnWhenAPanelAsksForIt();
 
 private:
     static void controlRows();
@@ -42,6 +48,21 @@ void enter(HoverButton &button)
     const QPointF at(5, 5);
     QEnterEvent event(at, at, button.mapToGlobal(at));
     QApplication::sendEvent(&button, &event);
+}
+
+/// The line below a profile's key; profiles count from 0.
+QRect colourLine(int profile)
+{
+    constexpr int left[] = {164, 205, 245, 284, 324, 364, 404, 444, 484, 524};
+    return {left[profile] + 2, 640 - 502 - 5, 38, 5};
+}
+
+void setColour(int profile, const QColor &colour)
+{
+    ProfileInfo &info = m_Config.PROFILE[profile];
+    info.LED_COLOR_R = static_cast<std::uint32_t>(colour.red());
+    info.LED_COLOR_G = static_cast<std::uint32_t>(colour.green());
+    info.LED_COLOR_B = static_cast<std::uint32_t>(colour.blue());
 }
 
 QWidget *controlNamed(const MainWindowStage &stage, const char *name)
@@ -109,9 +130,7 @@ void tst_layout::theFacesAreCutFromTheSkin()
     HoverButton &button = stage.button(control->name);
     const QRect part = downward(*control);
     button.setDisable(true);
-    // A profile key goes on showing the current profile.
-    if (!button.objectName().startsWith(QLatin1String("BtnProfile")))
-        QCOMPARE(shownFace(button), faceOf(button, "mainDis", part));
+    QCOMPARE(shownFace(button), faceOf(button, "mainDis", part));
     button.setDisable(false);
     button.setChecked(false);
     QCOMPARE(shownFace(button), faceOf(button, "mainbk", part));
@@ -216,23 +235,17 @@ void tst_layout::theLabelsStandOnTheBackground()
 void tst_layout::aColourLineHasItsProfilesColour_data()
 {
     QTest::addColumn<int>("profile");
-    QTest::addColumn<QRect>("line");
-    constexpr int left[] = {164, 205, 245, 284, 324, 364, 404, 444, 484, 524};
     for (int profile = 0; profile < 10; ++profile)
-        QTest::addRow("%d", profile + 1)
-            << profile << QRect(left[profile] + 2, 640 - 502 - 5, 38, 5);
+        QTest::addRow("%d", profile + 1) << profile;
 }
 
 void tst_layout::aColourLineHasItsProfilesColour()
 {
     QFETCH(int, profile);
-    QFETCH(QRect, line);
     const MainWindowStage stage;
     const QColor colour(17 * profile, 255 - profile, 100 + profile);
-    m_Config.PROFILE[profile].LED_COLOR_R = static_cast<std::uint32_t>(colour.red());
-    m_Config.PROFILE[profile].LED_COLOR_G = static_cast<std::uint32_t>(colour.green());
-    m_Config.PROFILE[profile].LED_COLOR_B = static_cast<std::uint32_t>(colour.blue());
-    QCOMPARE(extentOf(shown(stage.view()), colour), line);
+    setColour(profile, colour);
+    QCOMPARE(extentOf(shown(stage.view()), colour), colourLine(profile));
 }
 
 void tst_layout::aColourLineIsAsLargeAsItsKey()
@@ -242,6 +255,69 @@ void tst_layout::aColourLineIsAsLargeAsItsKey()
     const QColor colour(255, 60, 0);
     QCOMPARE(extentOf(picture, colour), QRect(166, 133, 398, 5));
     QVERIFY(picture.pixelColor(204, 135) != colour); // between the first two
+}
+
+void tst_layout::aColourOutsideItsRangeIsTheBrightest()
+{
+    const MainWindowStage stage;
+    setColour(0, {0, 0, 0});
+    m_Config.PROFILE[0].LED_COLOR_R = 256;
+    m_Config.PROFILE[0].LED_COLOR_B = 0xFFFFFFFF;
+    QCOMPARE(shownAt(stage.view(), {170, 135}), QColor(255, 0, 255));
+}
+
+/// Neither a line nor anything drawn after it covers more than it should.
+void tst_layout::theColourLinesStandOnTheBackground()
+{
+    const MainWindowStage stage;
+    QImage expected = skin("mainbk").toImage().convertToFormat(QImage::Format_ARGB32);
+    QPainter painter(&expected);
+    for (int profile = 0; profile < 10; ++profile)
+        painter.fillRect(colourLine(profile), QColor(255, 60, 0));
+    painter.end();
+    const QRect around(150, 128, 430, 15); // below the keys
+    QCOMPARE(shown(stage.view()).copy(around), expected.copy(around));
+}
+
+using Redraw = std::function<void(MainWindowStage &stage)>;
+
+void tst_layout::everyRedrawDrawsTheWholeView_data()
+{
+    QTest::addColumn<Redraw>("redraw");
+    const auto row = [](const char *name, const Redraw &redraw) { QTest::newRow(name) << redraw; };
+    row("asked for by a panel",
+        [](MainWindowStage &stage) { stage.interface->controller().refreshProfileColorBar(); });
+    row("of the percentage",
+        [](MainWindowStage &stage) { stage.view().update(154, 640 - 350 - 15, 45, 15); });
+    row("of the labels", [](MainWindowStage &stage) { stage.view().update(0, 0, 200, 640); });
+    row("of a part of a label", [](MainWindowStage &stage) { stage.view().update(90, 110, 9, 6); });
+    row("after a recount that changes nothing",
+        [](MainWindowStage &stage) { stage.reportProfile(1); });
+}
+
+void tst_layout::everyRedrawDrawsTheWholeView()
+{
+    QFETCH(Redraw, redraw);
+    MainWindowStage stage;
+    const QImage before = onScreen(stage.window());
+    QVERIFY(extentOf(before, QColor(255, 60, 0)).isValid());
+    for (int times = 0; times < 3; ++times) {
+        redraw(stage);
+        QCOMPARE(onScreen(stage.window()), before);
+    }
+}
+
+void tst_layout::aNewColourIsDrawnWhenAPanelAsksForIt()
+{
+    const MainWindowStage stage;
+    QImage expected = onScreen(stage.window());
+    for (int profile = 0; profile < 10; ++profile) {
+        const QColor colour(20 * profile, 7, 250 - profile);
+        setColour(profile, colour);
+        QPainter(&expected).fillRect(colourLine(profile), colour);
+    }
+    stage.interface->controller().refreshProfileColorBar();
+    QCOMPARE(onScreen(stage.window()), expected);
 }
 
 QTEST_MAIN(tst_layout)

@@ -1,6 +1,9 @@
+#include "functions/gamecommands.h"
 #include "model/fixedtext.h"
+#include "support/drop.h"
 #include "support/mainwindow.h"
 #include "support/pictures.h"
+#include "support/screen.h"
 #include "support/skinpictures.h"
 
 /// What functions take in the mouse's memory, and the gauge that shows it.
@@ -13,6 +16,8 @@ private Q_SLOTS:
 
     void aFunctionHasItsSize_data();
     void aFunctionHasItsSize();
+    void everyGameCommandHasItsSize();
+    void basicFunctionsTakeNothingButTheDoubleClick();
     void aMacroHasItsSize_data();
     void aMacroHasItsSize();
     void theMacroIsThatOfTheCurrentProfile();
@@ -23,6 +28,9 @@ private Q_SLOTS:
     void unitsAreCutDown();
     void thePercentageIsWrittenBesideTheBar_data();
     void thePercentageIsWrittenBesideTheBar();
+    void inGameModeThePercentageIsZero();
+    void theGaugeIsDrawnAgainAfterAnAssignment();
+    void anUnknownCurrentProfileCountsAsTheFirst();
 };
 
 namespace {
@@ -43,6 +51,13 @@ void fillText(MacroInfo &macro, const char *text, std::uint32_t start, std::uint
     macro.bSTARTKEY = start;
     macro.bSENDKEY = send;
     SetText(macro.COPY_PASTER, text);
+}
+
+constexpr QRect kPercentPlace(154, 640 - 350 - 15, 45, 15);
+
+QImage percentage(const QString &text)
+{
+    return withText(skin("mainbk"), text, kPercentPlace, 10);
 }
 
 /// The 14 buttons of the first profile, all with one code, the macro in slot 0 of 500 events.
@@ -93,6 +108,18 @@ void tst_memory::aFunctionHasItsSize()
 {
     QFETCH(FunctionCode, code);
     QTEST(MainView::GetMacroBlockInfo(code), "size");
+}
+
+void tst_memory::everyGameCommandHasItsSize()
+{
+    for (const KnownCommand &command : kKnownCommands)
+        QCOMPARE(MainView::GetMacroBlockInfo(command.code), command.size);
+}
+
+void tst_memory::basicFunctionsTakeNothingButTheDoubleClick()
+{
+    for (FunctionCode code = 0; code <= 255; ++code)
+        QCOMPARE(MainView::GetMacroBlockInfo(code), code == 3 ? 10U : 0U);
 }
 
 void tst_memory::aMacroHasItsSize_data()
@@ -214,18 +241,21 @@ void tst_memory::theGaugeShowsTheProfile()
 
 void tst_memory::unitsAreCutDown_data()
 {
-    QTest::addColumn<std::size_t>("doubleClicks");
+    using Codes = std::vector<FunctionCode>;
+    QTest::addColumn<Codes>("codes");
     QTest::addColumn<std::uint32_t>("usage");
-    QTest::newRow("85 bytes") << std::size_t{1} << 0U;
-    QTest::newRow("125 bytes") << std::size_t{5} << 0U;
-    QTest::newRow("135 bytes") << std::size_t{6} << 1U;
+    QTest::newRow("85 bytes") << Codes{3} << 0U;
+    QTest::newRow("125 bytes") << Codes(5, 3) << 0U;
+    QTest::newRow("127 bytes") << Codes{3, 3, 0x2009, 3, 3} << 0U;
+    QTest::newRow("129 bytes") << Codes{0x4004, 3, 3, 3, 0x2009} << 1U;
+    QTest::newRow("135 bytes") << Codes(6, 3) << 1U;
 }
 
 void tst_memory::unitsAreCutDown()
 {
-    QFETCH(std::size_t, doubleClicks);
+    QFETCH(std::vector<FunctionCode>, codes);
     MainWindowStage stage;
-    std::fill_n(m_Config.PROFILE[0].BUTTON, doubleClicks, 3U);
+    std::ranges::copy(codes, m_Config.PROFILE[0].BUTTON);
     stage.reportProfile(1);
     QTEST(stage.view().memoryUsage(), "usage");
 }
@@ -255,9 +285,48 @@ void tst_memory::thePercentageIsWrittenBesideTheBar()
         fillEvents(profile.MACRO[1], 3, static_cast<std::size_t>(events), 0);
         profile.BUTTON[13] = 257;
     }
-    const QRect place(154, 640 - 350 - 15, 45, 15);
     stage.reportProfile(1);
-    QCOMPARE(shown(stage.view()).copy(place), withText(skin("mainbk"), text, place, 10));
+    QCOMPARE(shown(stage.view()).copy(kPercentPlace), percentage(text));
+}
+
+void tst_memory::inGameModeThePercentageIsZero()
+{
+    MainWindowStage stage;
+    setAllButtons(256);
+    stage.reportProfile(1);
+    QCOMPARE(shown(stage.view()).copy(kPercentPlace), percentage(QStringLiteral("342%")));
+    pointer::click(stage.button("chkGameMode"));
+    stage.reportProfile(1);
+    QCOMPARE(shown(stage.view()).copy(kPercentPlace), percentage(QStringLiteral("0%")));
+}
+
+/// Text and bar, on the screen.
+void tst_memory::theGaugeIsDrawnAgainAfterAnAssignment()
+{
+    const MainWindowStage stage;
+    fillEvents(m_Config.PROFILE[0].MACRO[0], 2, 500, 1);
+    const QRect bar(60, 640 - 350 - 18, 90, 18);
+    const QImage empty = onScreen(stage.window()).copy(bar);
+    for (int number = 1; number <= 4; ++number)
+        dropText(stage.mouseButton(number), QStringLiteral("256"));
+    const QImage now = onScreen(stage.window());
+    QCOMPARE(now.copy(kPercentPlace), percentage(QStringLiteral("98%"))); // 75 + 4 * 2002 bytes
+    QVERIFY(now.copy(bar) != empty);
+    for (int number = 1; number <= 4; ++number)
+        dropText(stage.mouseButton(number), QStringLiteral("1"));
+    const QImage after = onScreen(stage.window());
+    QCOMPARE(after.copy(kPercentPlace), percentage(QStringLiteral("0%")));
+    QCOMPARE(after.copy(bar), empty);
+}
+
+void tst_memory::anUnknownCurrentProfileCountsAsTheFirst()
+{
+    MainWindowStage stage;
+    setAllButtons(256);
+    stage.reportProfile(77);
+    QCOMPARE(stage.view().memoryUsage(), 219U);
+    stage.reportProfile(2);
+    QCOMPARE(stage.view().memoryUsage(), 0U);
 }
 
 QTEST_MAIN(tst_memory)

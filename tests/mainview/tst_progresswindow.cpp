@@ -42,7 +42,7 @@ struct ShownStage : ProgressStage
 {
     ShownStage()
     {
-        view().DisplayWriteDeviceBar();
+        saveOnBoard();
         if (!QTest::qWaitForWindowExposed(progressWindow()))
             qFatal("the progress window does not come up");
     }
@@ -56,7 +56,7 @@ void tst_progresswindow::shownAgainTheWindowStartsFromZero()
     stage.progress(100);
     QVERIFY(!stage.showsProgress());
     QCOMPARE(stage.progressView().progressPos(), 100);
-    stage.view().DisplayWriteDeviceBar();
+    stage.saveOnBoard();
     QCOMPARE(stage.progressView().progressPos(), 0);
 }
 
@@ -76,7 +76,7 @@ void tst_progresswindow::theWindowComesUpInTheMiddleOfTheScreen()
 {
     ProgressStage stage;
     stage.window().move(0, 0);
-    stage.view().DisplayWriteDeviceBar();
+    stage.saveOnBoard();
     QVERIFY(isCentred(*stage.progressWindow()));
 }
 
@@ -103,7 +103,7 @@ void tst_progresswindow::shownAlreadyTheWindowIsRaisedWhereItStands()
     custumwindow &window = *stage.progressWindow();
     window.move(5, 6);
     const RaiseCounter counter(window);
-    stage.view().DisplayWriteDeviceBar();
+    stage.saveOnBoard();
     QCOMPARE(counter.raises, 1);
     QCOMPARE(window.pos(), QPoint(5, 6));
     QVERIFY(window.isVisible());
@@ -114,7 +114,7 @@ void tst_progresswindow::theWindowCanBeShownAgain()
     ShownStage stage;
     stage.progress(100);
     QVERIFY(!stage.showsProgress());
-    stage.view().DisplayWriteDeviceBar();
+    stage.saveOnBoard();
     QVERIFY(stage.showsProgress());
     stage.progress(20);
     QCOMPARE(stage.progressView().progressPos(), 20);
@@ -131,7 +131,7 @@ void tst_progresswindow::closedByTheDesktopTheWindowEndsTheProgress()
     QVERIFY(!stage.showsProgress());
     stage.progress(50);
     QCOMPARE(stage.progressView().progressPos(), 40);
-    stage.view().DisplayWriteDeviceBar();
+    stage.saveOnBoard();
     QVERIFY(stage.showsProgress());
     QVERIFY(isCentred(*stage.progressWindow()));
     stage.progress(50);

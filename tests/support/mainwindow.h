@@ -2,6 +2,7 @@
 
 #include "app/interface.h"
 #include "mainview/MainView.h"
+#include "support/attendedpanels.h"
 #include "support/localnotificationcenter.h"
 #include "support/logcapture.h"
 #include "support/plistxml.h"
@@ -10,8 +11,8 @@
 
 #include <QtGui/QScreen>
 
-/// The program's main window, shown, with a settings file, notifications and a way to quit of its
-/// own. Without `file` there is no settings file: the program starts with its defaults.
+/// The program's windows, shown, with a settings file, notifications, file panels and a way to quit
+/// of their own. Without `file` there is no settings file: the program starts with its defaults.
 struct MainWindowStage
 {
     explicit MainWindowStage(const QByteArray &file = {})
@@ -23,7 +24,10 @@ struct MainWindowStage
 
     void start(const std::string &path)
     {
-        interface = std::make_unique<Interface>(Environment{path, &center, [this] { ++quits; }});
+        interface = std::make_unique<Interface>(Environment{
+            path, &center, [this] { ++quits; }, &panels,
+            [this](const std::string &file) { openedFiles.push_back(file); },
+            [this](const std::string &address) { openedAddresses.push_back(address); }});
         if (!QTest::qWaitForWindowActive(&window()))
             qFatal("the main window does not come up");
     }
@@ -81,6 +85,9 @@ struct MainWindowStage
 
     TestSettings settings;
     LocalNotificationCenter center;
+    AttendedPanels panels;
+    std::vector<std::string> openedFiles;
+    std::vector<std::string> openedAddresses;
     LogCapture log;
     int quits = 0;
     std::unique_ptr<Interface> interface;

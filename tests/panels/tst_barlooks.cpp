@@ -1,0 +1,180 @@
+#include "barsstage.h"
+#include "support/keyboard.h"
+#include "support/pictures.h"
+#include "support/skinpictures.h"
+
+/// How the bars and their handles are drawn.
+class tst_barlooks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void anOpenBarShowsItsWholePicture_data() { bars(); }
+    void anOpenBarShowsItsWholePicture();
+    void aShutBarShowsThePicturesOuterEdge_data() { bars(); }
+    void aShutBarShowsThePicturesOuterEdge();
+    void theTitleStandsOnTheOpenBar_data() { bars(); }
+    void theTitleStandsOnTheOpenBar();
+    void theHandleTellsWhetherTheBarIsOpen_data() { bars(); }
+    void theHandleTellsWhetherTheBarIsOpen();
+    void theHandleLightsUpUnderThePointer_data() { bars(); }
+    void theHandleLightsUpUnderThePointer();
+    void theHandleLightsUpWhilePressed_data() { bars(); }
+    void theHandleLightsUpWhilePressed();
+    void theHandleChangesAsTheBarSetsOut_data() { bars(); }
+    void theHandleChangesAsTheBarSetsOut();
+
+private:
+    static void bars();
+};
+
+namespace {
+
+/// A part, y downwards, of what the bar shows.
+QImage shownPart(const BarsStage &stage, const KnownBar &known, QRect part)
+{
+    return shown(stage.content(known)).copy(part);
+}
+
+QImage picture(const KnownBar &known, QRect part)
+{
+    return skin(known.background).toImage().convertToFormat(QImage::Format_ARGB32).copy(part);
+}
+
+/// What a face looks like on the colour that stands behind a control drawn by itself.
+QImage face(const HoverButton &toggle, const char *name)
+{
+    QPixmap pixmap(toggle.size());
+    pixmap.fill(toggle.palette().color(QPalette::Window));
+    QPainter(&pixmap).drawPixmap(0, 0, skin(name));
+    return pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+/// The picture with what stands upon it painted over.
+QImage without(const std::vector<QRect> &covers, QImage image)
+{
+    QPainter painter(&image);
+    for (const QRect &cover : covers)
+        painter.fillRect(cover, Qt::black);
+    return image;
+}
+
+QSize pictureSize(const KnownBar &known)
+{
+    return {known.open.width, known.open.height};
+}
+
+} // namespace
+
+void tst_barlooks::bars()
+{
+    QTest::addColumn<const KnownBar *>("known");
+    for (const KnownBar &known : kKnownBars)
+        QTest::newRow(known.window) << &known;
+}
+
+void tst_barlooks::anOpenBarShowsItsWholePicture()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    stage.clickToggle(*known);
+    const QRect whole(QPoint(), pictureSize(*known));
+    QCOMPARE(skin(known->background).size(), whole.size());
+    const std::vector covers{stage.toggle(*known).geometry(),
+                             UpHost(known->open.height).down(known->titleRect)};
+    QCOMPARE(without(covers, shownPart(stage, *known, whole)),
+             without(covers, picture(*known, whole)));
+}
+
+void tst_barlooks::aShutBarShowsThePicturesOuterEdge()
+{
+    QFETCH(const KnownBar *, known);
+    const BarsStage stage;
+    const QSize shut = stage.bar(*known).size();
+    const QSize open = pictureSize(*known);
+    // Outer is left, right, below.
+    const QPoint edge(known->open.x > 0 ? open.width() - shut.width() : 0,
+                      open.height() - shut.height());
+    const QRect part(0, 0, 16, 16); // off the handle
+    QCOMPARE(shownPart(stage, *known, part), picture(*known, part.translated(edge)));
+}
+
+void tst_barlooks::theTitleStandsOnTheOpenBar()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    stage.clickToggle(*known);
+    const QRect place = UpHost(known->open.height).down(known->titleRect);
+    QPixmap expected = skin(known->background);
+    QPainter painter(&expected);
+    QFont font = QApplication::font();
+    font.setPixelSize(12);
+    painter.setFont(font);
+    painter.setPen(QColor(255, 180, 0));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, QLatin1String(known->title));
+    painter.end();
+    QVERIFY(shownPart(stage, *known, place) != picture(*known, place));
+    QCOMPARE(shownPart(stage, *known, place),
+             expected.toImage().convertToFormat(QImage::Format_ARGB32).copy(place));
+}
+
+void tst_barlooks::theHandleTellsWhetherTheBarIsOpen()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    HoverButton &toggle = stage.toggle(*known);
+    QCOMPARE(skin(known->shutFace).size(), toggle.size());
+    QCOMPARE(shown(toggle), face(toggle, known->shutFace));
+    stage.clickToggle(*known);
+    stage.pointAway(*known);
+    QCOMPARE(shown(toggle), face(toggle, known->openFace));
+    stage.clickToggle(*known);
+    stage.pointAway(*known);
+    QCOMPARE(shown(toggle), face(toggle, known->shutFace));
+}
+
+void tst_barlooks::theHandleLightsUpUnderThePointer()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    HoverButton &toggle = stage.toggle(*known);
+    for (const char *lit : {known->shutLit, known->openLit}) {
+        stage.pointAway(*known);
+        pointer::move(toggle, toggle.rect().center());
+        QCOMPARE(shown(toggle), face(toggle, lit));
+        stage.clickToggle(*known);
+    }
+}
+
+void tst_barlooks::theHandleLightsUpWhilePressed()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    HoverButton &toggle = stage.toggle(*known);
+    const QRect inner = toggle.rect().adjusted(1, 1, -1, -1); // within the frame of the keyboard
+    keyboard::tabTo(toggle);
+    stage.pointAway(*known);
+    QWindow *const window = stage.bar(*known).windowHandle();
+    for (const char *lit : {known->shutLit, known->openLit}) {
+        QTest::keyPress(window, Qt::Key_Space);
+        QCOMPARE(shown(toggle).copy(inner), face(toggle, lit).copy(inner));
+        QTest::keyRelease(window, Qt::Key_Space);
+        stage.arrive();
+    }
+}
+
+void tst_barlooks::theHandleChangesAsTheBarSetsOut()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    HoverButton &toggle = stage.toggle(*known);
+    for (const char *plain : {known->openFace, known->shutFace}) {
+        pointer::click(toggle);
+        stage.pointAway(*known);
+        QCOMPARE(shown(toggle), face(toggle, plain));
+        stage.arrive();
+    }
+}
+
+QTEST_MAIN(tst_barlooks)
+#include "tst_barlooks.moc"

@@ -1,0 +1,319 @@
+#include "barsstage.h"
+#include "support/focus.h"
+#include "support/keyboard.h"
+
+/// The bars around the main window, opened and closed by their handles.
+class tst_bars : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aBarIsATitledWindowOfTheMainWindow_data() { bars(); }
+    void aBarIsATitledWindowOfTheMainWindow();
+    void atFirstTheBarsAreShut_data() { bars(); }
+    void atFirstTheBarsAreShut();
+    void aClickOnTheHandleOpensAndAnotherCloses_data() { bars(); }
+    void aClickOnTheHandleOpensAndAnotherCloses();
+    void aRightClickOnTheHandleDoesNothing_data() { bars(); }
+    void aRightClickOnTheHandleDoesNothing();
+    void aClickUnderWayTurnsTheBarRound_data();
+    void aClickUnderWayTurnsTheBarRound();
+    void theHandleHasItsTagAndPlace_data() { bars(); }
+    void theHandleHasItsTagAndPlace();
+    void theRightHandleIsHiddenUnderWay();
+    void theOtherHandlesShowUnderWay_data();
+    void theOtherHandlesShowUnderWay();
+    void theKeyboardOpensAndClosesABar_data() { bars(); }
+    void theKeyboardOpensAndClosesABar();
+    void theRightHandleTakesTheKeyboardBack();
+    void aClickOnTheHandleLeavesTheKeyboard_data() { bars(); }
+    void aClickOnTheHandleLeavesTheKeyboard();
+    void aDragOnTheHandleMovesNothing_data() { bars(); }
+    void aDragOnTheHandleMovesNothing();
+    void aDragByABarMovesTheWholeArrangement_data() { bars(); }
+    void aDragByABarMovesTheWholeArrangement();
+    void aDragByABarIsLimitedByTheMainWindowsTop_data() { bars(); }
+    void aDragByABarIsLimitedByTheMainWindowsTop();
+    void aDragByTheMainWindowTakesOpenBarsAlong();
+    void aRestoreWithOpenBarsLeavesThemOpen();
+    void aBarThatTheDesktopAsksToCloseStays_data() { bars(); }
+    void aBarThatTheDesktopAsksToCloseStays();
+
+private:
+    static void bars();
+    static void barsWithAHandleUnderWay();
+};
+
+namespace {
+
+const KnownBar &kRight = kKnownBars[1];
+
+/// Presses on the bar off its handle, moves by `way` on the screen in small moves, and back again
+/// when `andBack`; releases.
+void drag(const custumwindow &bar, QPoint way, bool andBack = false)
+{
+    constexpr int kSteps = 8;
+    const QPoint start = bar.mapToGlobal(QPoint(5, 5));
+    const auto moveTo = [&](QPoint there) { pointer::move(bar, bar.mapFromGlobal(there)); };
+    pointer::press(bar, {5, 5});
+    for (int step = 1; step <= kSteps; ++step)
+        moveTo(start + way * step / kSteps);
+    for (int step = kSteps - 1; andBack && step >= 0; --step)
+        moveTo(start + way * step / kSteps);
+    pointer::release(bar, bar.mapFromGlobal(andBack ? start : start + way));
+}
+
+} // namespace
+
+void tst_bars::bars()
+{
+    QTest::addColumn<const KnownBar *>("known");
+    for (const KnownBar &known : kKnownBars)
+        QTest::newRow(known.window) << &known;
+}
+
+void tst_bars::barsWithAHandleUnderWay()
+{
+    QTest::addColumn<const KnownBar *>("known");
+    for (const KnownBar &known : kKnownBars) {
+        if (&known != &kRight)
+            QTest::newRow(known.window) << &known;
+    }
+}
+
+void tst_bars::aBarIsATitledWindowOfTheMainWindow()
+{
+    QFETCH(const KnownBar *, known);
+    const BarsStage stage;
+    const custumwindow &bar = stage.bar(*known);
+    QCOMPARE(bar.windowTitle(), QLatin1String(known->title));
+    QCOMPARE(bar.windowType(), Qt::Tool);
+    QCOMPARE(bar.parentWidget(), &stage.program.window());
+    QCOMPARE(bar.windowHandle()->transientParent(), stage.program.window().windowHandle());
+}
+
+void tst_bars::atFirstTheBarsAreShut()
+{
+    QFETCH(const KnownBar *, known);
+    const BarsStage stage;
+    QVERIFY(stage.bar(*known).isVisible());
+    QVERIFY(stage.lies(*known, known->shut));
+    QCOMPARE(stage.content(*known).size(), stage.bar(*known).size());
+}
+
+void tst_bars::aClickOnTheHandleOpensAndAnotherCloses()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    for (int round = 0; round < 2; ++round) {
+        stage.clickToggle(*known);
+        QVERIFY(stage.lies(*known, known->open));
+        QCOMPARE(stage.content(*known).size(), stage.bar(*known).size());
+        stage.clickToggle(*known);
+        QVERIFY(stage.lies(*known, known->shut));
+    }
+    for (const KnownBar &other : kKnownBars)
+        QVERIFY2(stage.lies(other, other.shut), other.window);
+}
+
+void tst_bars::aRightClickOnTheHandleDoesNothing()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    pointer::rightClick(stage.toggle(*known));
+    stage.arrive();
+    QVERIFY(stage.lies(*known, known->shut));
+}
+
+void tst_bars::aClickUnderWayTurnsTheBarRound_data()
+{
+    barsWithAHandleUnderWay();
+}
+
+void tst_bars::aClickUnderWayTurnsTheBarRound()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    pointer::click(stage.toggle(*known));
+    stage.passHalf();
+    QVERIFY(!stage.lies(*known, known->shut));
+    stage.clickToggle(*known);
+    QVERIFY(stage.lies(*known, known->shut));
+    stage.clickToggle(*known);
+    QVERIFY(stage.lies(*known, known->open));
+}
+
+void tst_bars::theHandleHasItsTagAndPlace()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    const HoverButton &toggle = stage.toggle(*known);
+    QCOMPARE(toggle.tag(), known->tag);
+    QVERIFY(!toggle.accessibleName().isEmpty());
+    const UpRect &shut = known->toggle;
+    const auto place = [&] { return UpHost(stage.bar(*known).height()).up(toggle.geometry()); };
+    QVERIFY(place() == shut);
+    QVERIFY(toggle.isVisible());
+    stage.clickToggle(*known);
+    QVERIFY(place() == (UpRect{known->toggleOpen.x, known->toggleOpen.y, shut.width, shut.height}));
+    QVERIFY(toggle.isVisible());
+    stage.clickToggle(*known);
+    QVERIFY(place() == shut);
+    QVERIFY(toggle.isVisible());
+}
+
+void tst_bars::theRightHandleIsHiddenUnderWay()
+{
+    BarsStage stage;
+    const HoverButton &toggle = stage.toggle(kRight);
+    for (int way = 0; way < 2; ++way) {
+        pointer::click(toggle);
+        QVERIFY(!toggle.isVisible());
+        stage.passHalf();
+        QVERIFY(!toggle.isVisible());
+        stage.passHalf();
+        QVERIFY(toggle.isVisible());
+    }
+}
+
+void tst_bars::theOtherHandlesShowUnderWay_data()
+{
+    barsWithAHandleUnderWay();
+}
+
+void tst_bars::theOtherHandlesShowUnderWay()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    pointer::click(stage.toggle(*known));
+    stage.passHalf();
+    QVERIFY(stage.toggle(*known).isVisible());
+}
+
+void tst_bars::theKeyboardOpensAndClosesABar()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    HoverButton &toggle = stage.toggle(*known);
+    keyboard::tabTo(toggle);
+    for (const UpRect &there : {known->open, known->shut}) {
+        keyboard::press(Qt::Key_Space);
+        stage.arrive();
+        QVERIFY(stage.lies(*known, there));
+        QVERIFY(toggle.hasFocus());
+        QVERIFY(showsFocusFrame(toggle));
+    }
+}
+
+void tst_bars::theRightHandleTakesTheKeyboardBack()
+{
+    BarsStage stage;
+    HoverButton &toggle = stage.toggle(kRight);
+    // What takes the keyboard when the handle is hidden.
+    HoverButton other(&stage.content(kRight), {20, 20, 97, 27});
+    other.show();
+    keyboard::tabTo(toggle);
+    for (int way = 0; way < 2; ++way) {
+        keyboard::press(Qt::Key_Space);
+        QVERIFY(other.hasFocus());
+        stage.arrive();
+        QVERIFY(toggle.hasFocus());
+        QVERIFY(showsFocusFrame(toggle));
+    }
+    keyboard::tabTo(other);
+    stage.clickToggle(kRight);
+    QVERIFY(other.hasFocus());
+}
+
+void tst_bars::aClickOnTheHandleLeavesTheKeyboard()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    keyboard::press(Qt::Key_Tab);
+    const QString before = focusPlace();
+    QVERIFY(before.startsWith(QStringLiteral("MainWindow/")));
+    stage.clickToggle(*known);
+    stage.clickToggle(*known);
+    QCOMPARE(focusPlace(), before);
+    QCOMPARE(focusFrames(stage.bar(*known)), QStringList());
+}
+
+void tst_bars::aDragOnTheHandleMovesNothing()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    const QPoint before = stage.program.window().pos();
+    const HoverButton &toggle = stage.toggle(*known);
+    pointer::press(toggle, {8, 8});
+    pointer::move(toggle, {60, 70});
+    pointer::release(toggle, {60, 70});
+    QCOMPARE(stage.program.window().pos(), before);
+    QVERIFY(stage.lies(*known, known->shut));
+}
+
+void tst_bars::aDragByABarMovesTheWholeArrangement()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    const QPoint before = stage.program.window().pos();
+    drag(stage.bar(*known), {48, -24});
+    QCOMPARE(stage.program.window().pos(), before + QPoint(48, -24));
+    for (const KnownBar &bar : kKnownBars)
+        QVERIFY2(stage.lies(bar, bar.shut), bar.window);
+    stage.clickToggle(*known);
+    drag(stage.bar(*known), {-80, 40});
+    QCOMPARE(stage.program.window().pos(), before + QPoint(-32, 16));
+    QVERIFY(stage.lies(*known, known->open));
+}
+
+void tst_bars::aDragByABarIsLimitedByTheMainWindowsTop()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    const QPoint before = stage.program.window().pos();
+    drag(stage.bar(*known), {0, -400});
+    QCOMPARE(stage.program.window().pos(), QPoint(before.x(), 0));
+    QVERIFY(stage.lies(*known, known->shut));
+    // On its way back the pointer finds the bar where it was pressed.
+    drag(stage.bar(*known), {0, -80}, true);
+    QCOMPARE(stage.program.window().pos(), QPoint(before.x(), 0));
+}
+
+void tst_bars::aDragByTheMainWindowTakesOpenBarsAlong()
+{
+    BarsStage stage;
+    for (const KnownBar &bar : kKnownBars)
+        stage.clickToggle(bar);
+    const QPoint before = stage.program.window().pos();
+    pointer::press(stage.program.window(), {40, 300});
+    for (const QPoint step : {QPoint(10, 5), QPoint(10, 5), QPoint(-30, 60)}) {
+        pointer::move(stage.program.window(), QPoint(40, 300) + step);
+        for (const KnownBar &bar : kKnownBars)
+            QVERIFY2(stage.lies(bar, bar.open), bar.window);
+    }
+    pointer::release(stage.program.window(), {40, 300});
+    QCOMPARE(stage.program.window().pos(), before + QPoint(-10, 70));
+}
+
+void tst_bars::aRestoreWithOpenBarsLeavesThemOpen()
+{
+    BarsStage stage;
+    for (const KnownBar &bar : kKnownBars)
+        stage.clickToggle(bar);
+    pointer::click(stage.program.button("ButtonRestore"));
+    stage.arrive();
+    for (const KnownBar &bar : kKnownBars)
+        QVERIFY2(stage.lies(bar, bar.open), bar.window);
+}
+
+void tst_bars::aBarThatTheDesktopAsksToCloseStays()
+{
+    QFETCH(const KnownBar *, known);
+    const BarsStage stage;
+    stage.bar(*known).windowHandle()->close();
+    QVERIFY(stage.bar(*known).isVisible());
+    QVERIFY(stage.program.window().isVisible());
+}
+
+QTEST_MAIN(tst_bars)
+#include "tst_bars.moc"
