@@ -216,6 +216,7 @@ ContextMenu::ContextMenu(const std::vector<MenuItem> &items, QWidget *parent, co
     setStyle(style);
     setFont(systemFont(kTextSize));
     setObjectName(name);
+    setWindowTitle(name);
     for (const MenuItem &item : items) {
         if (!isEmpty())
             addSeparator();

@@ -14,7 +14,7 @@ constexpr DialogLayout kLayout{
     .normal = "About_n",
     .over = "about_o",
     .down = "about_d",
-    .title = {20, 146, 190, 18},
+    .title = {34, 146, 190, 18},
     .texts = kTexts,
     .buttons = kButtons,
 };

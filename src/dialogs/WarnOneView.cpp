@@ -15,7 +15,7 @@ constexpr DialogLayout kLayout{
     .normal = "warnone_n",
     .over = "warnone_o",
     .down = "warnone_d",
-    .title = {20, 146, 320, 18},
+    .title = {33, 146, 320, 18},
     .texts = kTexts,
     .buttons = kButtons,
 };

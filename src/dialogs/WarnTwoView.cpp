@@ -16,7 +16,7 @@ constexpr DialogLayout kLayout{
     .normal = "warntwo_n",
     .over = "warntwo_o",
     .down = "warntwo_d",
-    .title = {20, 146, 320, 18},
+    .title = {33, 146, 320, 18},
     .texts = kTexts,
     .buttons = kButtons,
 };

@@ -131,7 +131,7 @@ void tst_dialoglooks::theTextsAreDrawn()
     QuestionStage stage;
     QImage expected = shown(*stage.view);
     const QImage empty = expected;
-    drawText(expected, QStringLiteral("Warning"), {20, 146, 320, 18}, kTitleFlags);
+    drawText(expected, QStringLiteral("Warning"), {33, 146, 320, 18}, kTitleFlags);
     drawMessage(expected, text, box);
     stage.view->setDisplayString(QStringLiteral("Warning"), text);
     const QImage picture = shown(*stage.view);
@@ -139,7 +139,7 @@ void tst_dialoglooks::theTextsAreDrawn()
     QCOMPARE(picture, expected);
     WarningStage warning;
     QImage wanted = shown(*warning.view);
-    drawText(wanted, QStringLiteral("Warning"), {20, 146, 320, 18}, kTitleFlags);
+    drawText(wanted, QStringLiteral("Warning"), {33, 146, 320, 18}, kTitleFlags);
     drawMessage(wanted, text, box);
     warning.view->setDisplayString(QStringLiteral("Warning"), text);
     QCOMPARE(shown(*warning.view), wanted);
@@ -152,7 +152,7 @@ void tst_dialoglooks::theVersionsAreDrawn()
     // The close button is cut from the same picture.
     QImage expected =
         SkinImage::named("About_n").pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
-    drawText(expected, QStringLiteral("About"), {20, 146, 190, 18}, kTitleFlags);
+    drawText(expected, QStringLiteral("About"), {34, 146, 190, 18}, kTitleFlags);
     drawMessage(expected, QStringLiteral("Software Version:1.02"), {20, 62, 218, 18});
     drawMessage(expected, QStringLiteral("Firmware Version:2.1"), {20, 38, 218, 18});
     QCOMPARE(shown(*stage.view), expected);

@@ -15,16 +15,23 @@ MAIN_TITLE = "Kyr Torvane MMO Gaming Mouse"
 LIST_TITLE = "Basic Functions"
 VIEW_HEIGHT = 640
 ROW_HEIGHT = 20
+MENU_FRAME = 4
+MENU_ROW_HEIGHT = 24
+MENU_SEPARATOR_HEIGHT = 3
 
 
-def control_rectangles():
-    """The main view's controls by name, as (x, y, width, height), y upwards, from its own table."""
-    table = (ROOT / "src/mainview/controltable.h").read_text()
-    rows = re.findall(r'"(\w+)", ControlKind::\w+, \{(\d+), (\d+), (\d+), (\d+)\}', table)
+def control_rectangles(source):
+    """A view's controls by name, as (x, y, width, height), y upwards, from its own table."""
+    table = (ROOT / "src" / source).read_text()
+    rows = re.findall(r'\{"(\w+)", \{(\d+), (\d+), (\d+), (\d+)\}', table)
     return {name: tuple(map(int, box)) for name, *box in rows}
 
 
-CONTROLS = control_rectangles()
+CONTROLS = control_rectangles("mainview/controltable.h")
+DIALOGS = {name: control_rectangles(f"dialogs/{name}.cpp")
+           for name in ("WarnOneView", "WarnTwoView", "AboutView")}
+MENU_TITLES = {"BtnProfileMenu": "Profile menu", "BtnToolsMenu": "Tools menu",
+               "BtnHelpMenu": "Help menu"}
 
 
 def wait_for(condition, what, seconds=20):
@@ -77,6 +84,7 @@ class Stage:
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="kyr-stage-"))
         self.settings = pathlib.Path(settings or self.folder / "KT7R4Setting.xml")
         self.programs = []
+        self.pointer = None
         self.environment = self.clean_environment()
         try:
             self.start_display(size)
@@ -127,6 +135,10 @@ class Stage:
         wait_for(lambda: "window id" in self.output("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                  "the window manager")
         # It says that it is there before its event loop runs: it is once it answers requests.
+        self.wait_for_window_manager()
+
+    def wait_for_window_manager(self):
+        """Waits until it has done all that it was asked for."""
         for count in ("3", "2"):
             wait_for(lambda: self.has_desktops(count), f"a window manager with {count} desktops")
 
@@ -182,7 +194,10 @@ class Stage:
 
     def frame(self, title):
         """The window's (x, y, width, height) on the screen, y downwards."""
-        text = self.output("xdotool", "getwindowgeometry", "--shell", self.wait_for_window(title))
+        return self.frame_of(self.wait_for_window(title))
+
+    def frame_of(self, window):
+        text = self.output("xdotool", "getwindowgeometry", "--shell", window)
         values = dict(line.split("=") for line in text.split())
         return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
@@ -193,7 +208,10 @@ class Stage:
         wait_for(lambda: self.active_title() == title, f"{title!r} as the active window")
 
     def move_to(self, x, y):
-        self.output("xdotool", "mousemove", "--sync", str(x), str(y))
+        # Asked to wait for a move to where the pointer is, the tool waits in vain for 15 seconds.
+        if self.pointer != (x, y):
+            self.output("xdotool", "mousemove", "--sync", str(x), str(y))
+        self.pointer = x, y
 
     def click(self, x, y, button=1):
         self.move_to(x, y)
@@ -232,3 +250,37 @@ class Stage:
         x, y, width, _ = self.frame(LIST_TITLE)
         height = self.scale * ROW_HEIGHT
         self.click(x + width // 2, y + row * height + height // 2)
+
+    # Menus and dialogs
+
+    def utility_windows(self):
+        """The ids of the visible windows, menus among them."""
+        return set(self.output("xdotool", "search", "--onlyvisible", "--class", "kyr").split())
+
+    def click_menu_row(self, menu, row):
+        """Clicks a row of the menu with that window id."""
+        x, y, width, _ = self.frame_of(menu)
+        middle = MENU_FRAME + row * (MENU_ROW_HEIGHT + MENU_SEPARATOR_HEIGHT) + MENU_ROW_HEIGHT // 2
+        self.click(x + width // 2, y + self.scale * middle)
+
+    def open_menu(self, button, *submenu_rows):
+        """Opens a menu by its button, and the submenu of each row; the last one's window id."""
+        self.click_control(button)
+        menu = self.wait_for_window(MENU_TITLES[button])
+        for row in submenu_rows:
+            before = self.utility_windows()
+            self.click_menu_row(menu, row)
+            menu = wait_for(lambda: self.utility_windows() - before, "a submenu").pop()
+        return menu
+
+    def choose(self, button, *rows):
+        """Opens a menu by its button and chooses a row, or a row and one of its submenu."""
+        self.click_menu_row(self.open_menu(button, *rows[:-1]), rows[-1])
+        self.wait_for_no_window(MENU_TITLES[button])
+
+    def click_dialog(self, view, title, button):
+        """Clicks a button of a message dialog, and waits until the dialog is gone."""
+        left, top, _, height = self.frame(title)
+        x, y, width, button_height = (self.scale * length for length in DIALOGS[view][button])
+        self.click(left + x + width // 2, top + height - y - button_height // 2)
+        self.wait_for_no_window(title)

@@ -1,7 +1,8 @@
 """Plays the main job on a virtual display with the programs as they are installed: button 5 gets
-"Mouse Button 4", the change is applied, and the driver process takes it.
+"Mouse Button 4", the change is applied, and the driver process takes it. Then takes pictures of
+everything that the utility shows.
 
-usage: tour.py PROGRAMS SCREENSHOTS
+usage: tour.py PROGRAMS TOOLS SCREENSHOTS
        tour.py --put-back             only puts back what a tour that was killed left aside
 
 The settings file has a fixed place, so the player's own is put aside for the while and put back as
@@ -15,6 +16,7 @@ import plistlib
 import signal
 import sys
 
+from gallery import take_pictures
 from stage import LIST_TITLE, Stage, wait_for
 
 SETTINGS = pathlib.Path("/Users/Shared/KT7R4/KT7R4Setting.xml")
@@ -89,8 +91,8 @@ def assign_and_apply(stage, pictures):
     stage.click_control("ButtonApply")
 
 
-def play(programs, pictures):
-    with only_tour(), settings_put_aside(), Stage(settings=SETTINGS) as stage:
+def play_main_job(programs, pictures):
+    with Stage(settings=SETTINGS) as stage:
         say("starting kt7r4d and KyrGM on a virtual display")
         driver = stage.start(programs / "kt7r4d", "--state-dir", stage.folder / "state")
         driver.wait_for_line("ready")
@@ -116,10 +118,13 @@ def main(arguments):
         with only_tour():
             put_back()
         return
-    programs, pictures = (pathlib.Path(argument).resolve() for argument in arguments)
+    programs, tools, pictures = (pathlib.Path(argument).resolve() for argument in arguments)
     pictures.mkdir(parents=True, exist_ok=True)
-    play(programs, pictures)
-    say(f"screenshots are in {arguments[1]}")
+    with only_tour(), settings_put_aside():
+        play_main_job(programs, pictures)
+        say("taking pictures of everything else")
+        take_pictures(SETTINGS, programs, tools, pictures)
+    say(f"screenshots are in {arguments[2]}")
 
 
 if __name__ == "__main__":

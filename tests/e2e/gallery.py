@@ -1,0 +1,127 @@
+"""Pictures of everything that the utility shows, for people to look at."""
+
+import plistlib
+import signal
+
+from settingsfile import changed, factory_values, rich_settings
+from stage import LIST_TITLE, MAIN_TITLE, Stage, wait_for
+
+# On which scale the pictures are taken, with a screen that has room for all bars.
+SCREENS = {1: "1280x1024", 2: "2400x1800"}
+# What the bars reach out of the main window when they are open: left, right, below.
+MARGINS = (202, 200, 101)
+# Each bar's title, the place of its handle from the main window's upper left corner, its open size.
+BARS = (("Mouse Properties", (-8, 320), (202, 452)), ("Button Functions", (662, 320), (200, 461)),
+        ("Illumination Settings", (327, 648), (466, 101)))
+MENUS = {"menu-profile": ("BtnProfileMenu",), "menu-polling-rate": ("BtnToolsMenu", 0),
+         "menu-lift-distance": ("BtnToolsMenu", 1), "menu-help": ("BtnHelpMenu",)}
+PROGRESS = "Applying profile to on-board memory..."
+CHANGE_PROFILE = 32  # a function that the mouse cannot store
+
+
+def sample_settings():
+    """A profile as a player has it, and a second one that cannot be saved on board."""
+    return changed(rich_settings(), PROFILE_1=factory_values(),
+                   PROFILE_2={"BUTTON_14": CHANGE_PROFILE})
+
+
+class Gallery:
+    def __init__(self, stage, programs, tools, pictures):
+        self.stage, self.tools = stage, tools
+        self.pictures = pictures
+        self.driver = stage.start(programs / "kt7r4d", "--state-dir", stage.folder / "state")
+        self.driver.wait_for_line("ready")
+        stage.start(programs / "KyrGM")
+        stage.wait_for_main_window()
+
+    def box(self):
+        """The part of the screen with the window and, where they are open, its bars."""
+        left, top, width, height = self.stage.frame(MAIN_TITLE)
+        to_left, to_right, below = (self.stage.scale * margin for margin in MARGINS)
+        return left - to_left, top, width + to_left + to_right, height + below
+
+    def take(self, name):
+        """Takes a picture once nothing changes any more."""
+        shots = [b""]
+
+        def settled():
+            shots.append(self.stage.pixels(self.box()))
+            return shots[-1] == shots[-2]
+        wait_for(settled, "a screen that does not change")
+        self.stage.screenshot(self.pictures / f"{name}-at-{self.stage.scale}x.png", self.box())
+
+    def at(self, point):
+        left, top, _, _ = self.stage.frame(MAIN_TITLE)
+        return tuple(start + self.stage.scale * length for start, length in zip((left, top), point))
+
+    def take_all(self):
+        self.take("window")
+        self.take_list()
+        self.take_menus()
+        self.take_about()
+        self.take_error()
+        self.take_question()
+        self.take_progress()
+        self.take_bars()
+
+    def take_list(self):
+        self.stage.click_control("Button5", button=3)
+        self.stage.wait_for_active(LIST_TITLE)
+        self.take("quick-list")
+        self.stage.key("Escape")
+        self.stage.wait_for_no_window(LIST_TITLE)
+
+    def take_menus(self):
+        for name, (button, *rows) in MENUS.items():
+            menus = len(self.stage.utility_windows())
+            self.stage.open_menu(button, *rows)
+            self.take(name)
+            for _ in range(1 + len(rows)):
+                self.stage.key("Escape")
+            wait_for(lambda: len(self.stage.utility_windows()) == menus, "closed menus")
+
+    def take_about(self):
+        self.stage.choose("BtnHelpMenu", 1)
+        self.take_dialog("AboutView", "About", "about")
+
+    def take_error(self):
+        self.stage.click_control("BtnProfile2")
+        self.stage.click_control("ButtonSaveToDevice")
+        self.take_dialog("WarnOneView", "Error!", "error")
+        self.stage.click_control("BtnProfile1")
+
+    def take_question(self):
+        self.stage.click_control("ButtonRestore")
+        self.stage.click_control("BtnProfile1")
+        self.take_dialog("WarnTwoView", "Warnning!", "question")
+
+    def take_dialog(self, view, title, name):
+        self.stage.wait_for_active(title)
+        self.take(name)
+        self.stage.click_dialog(view, title, "ButtonClose")
+
+    def take_progress(self):
+        self.driver.process.send_signal(signal.SIGSTOP)
+        self.stage.click_control("ButtonSaveToDevice")
+        self.stage.wait_for_window(PROGRESS)
+        self.stage.start(self.tools / "driverreport", "Kt7R4WriteToDeviceChange", "PosNumber",
+                         "45").wait_for_end()
+        self.take("progress")
+        self.driver.process.send_signal(signal.SIGCONT)
+        self.stage.wait_for_no_window(PROGRESS)
+
+    def take_bars(self):
+        for title, handle, size in BARS:
+            self.stage.click(*self.at(handle))
+            whole = tuple(self.stage.scale * length for length in size)
+            wait_for(lambda: self.stage.frame(title)[2:] == whole, f"{title!r} open")
+        self.stage.move_to(0, 0)
+        self.take("bars")
+
+
+def take_pictures(settings, programs, tools, pictures):
+    """Plays through everything on each scale; the settings file is overwritten."""
+    for scale, size in SCREENS.items():
+        settings.write_bytes(plistlib.dumps(sample_settings()))
+        with Stage(settings=settings, size=size, scale=scale) as stage:
+            Gallery(stage, programs, tools, pictures).take_all()
