@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int kCaptionSize = 10;
-constexpr int kCaptionMargin = 4;
+constexpr int kCaptionMargin = 8; // clear of the lamps that light up in the pressed face
 constexpr float kDisabledCaption = 0.55F;
 
 /// A caption may hold anything, also what looks like markup: it is shown as it stands.
