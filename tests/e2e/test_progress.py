@@ -25,7 +25,7 @@ class Progress(unittest.TestCase):
         wait_for(lambda: self.stage.frame(PROGRESS_TITLE) == middle + SIZE, "the middle")
 
     def test_the_main_window_keeps_the_keyboard(self):
-        button = self.stage.control_box("Button2")
+        button = self.stage.control_box("BtnHelp")
         before = self.stage.pixels(button)
         self.stage.key("Tab")
         wait_for(lambda: self.stage.pixels(button) != before, "the keyboard on another button")
