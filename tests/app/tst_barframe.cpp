@@ -1,6 +1,5 @@
 #include "app/barframe.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// Where the bars lie, from the main window's frame and their own.
 class tst_barframe : public QObject
@@ -125,5 +124,5 @@ void tst_barframe::theReachGrowsWithTheShare()
     QCOMPARE(before, barReach(side));
 }
 
-QTEST_GUILESS_MAIN(tst_barframe)
+KYR_CORE_TEST(tst_barframe)
 #include "tst_barframe.moc"

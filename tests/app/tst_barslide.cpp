@@ -1,8 +1,7 @@
 #include "app/barslide.h"
 #include "support/animatedstyle.h"
 #include "support/animationclock.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// A bar's way between shut and open.
 class tst_barslide : public QObject
@@ -311,5 +310,5 @@ void tst_barslide::aBarThatIsGoneUnderWayIsLeftOut()
     QVERIFY(!stage.slide.isMoving());
 }
 
-QTEST_MAIN(tst_barslide)
+KYR_GUI_TEST(tst_barslide)
 #include "tst_barslide.moc"

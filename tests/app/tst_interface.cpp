@@ -1,6 +1,7 @@
 #include "app/KyrGMAppDelegate.h"
 #include "support/drop.h"
 #include "support/mainwindow.h"
+#include "support/suite.h"
 
 /// The main window as the program puts it up.
 class tst_interface : public QObject
@@ -124,5 +125,5 @@ void tst_interface::theDelegateForgetsAWindowThatIsGone()
     QCOMPARE(delegate.window(), nullptr);
 }
 
-QTEST_MAIN(tst_interface)
+KYR_GUI_TEST(tst_interface)
 #include "tst_interface.moc"

@@ -4,6 +4,7 @@
 #include "support/focus.h"
 #include "support/keyboard.h"
 #include "support/mainwindow.h"
+#include "support/suite.h"
 
 /// The keyboard's way through the four windows.
 class tst_keyboardtravel : public QObject
@@ -222,5 +223,5 @@ void tst_keyboardtravel::theTabKeyGoesOnAfterAnApplyByKeyboard()
     TravelStage::travelTo(QStringLiteral("LeftBar/btnToggle"));
 }
 
-QTEST_MAIN(tst_keyboardtravel)
+KYR_GUI_TEST(tst_keyboardtravel)
 #include "tst_keyboardtravel.moc"

@@ -1,6 +1,5 @@
 #include "app/controllerstage.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// The right bar: its view is asked around each slide, and a function is shown in it once it
 /// stands.
@@ -233,5 +232,5 @@ void tst_rightbar::aFunctionIsShownOnce()
     QCOMPARE(stage.asked(), list({"hideMiniBar at 16", "openMiniBar at 200"}));
 }
 
-QTEST_MAIN(tst_rightbar)
+KYR_GUI_TEST(tst_rightbar)
 #include "tst_rightbar.moc"

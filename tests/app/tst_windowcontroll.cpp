@@ -1,6 +1,5 @@
 #include "app/controllerstage.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// The window controller between windows and views that only take note.
 class tst_windowcontroll : public QObject
@@ -347,5 +346,5 @@ void tst_windowcontroll::viewsThatWereNeverSetAreLeftOut()
     QVERIFY(kBars[1].isShut(stage));
 }
 
-QTEST_MAIN(tst_windowcontroll)
+KYR_GUI_TEST(tst_windowcontroll)
 #include "tst_windowcontroll.moc"

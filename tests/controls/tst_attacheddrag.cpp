@@ -1,5 +1,6 @@
 #include "controls/custumwindow.h"
 #include "support/pointer.h"
+#include "support/suite.h"
 
 /// Windows that stand together: a drag of one moves the other, and itself after it.
 class tst_attacheddrag : public QObject
@@ -141,5 +142,5 @@ void tst_attacheddrag::afterTheOtherOneIsGoneADragMovesTheWindowAgain()
     QCOMPARE(stage.attached.pos(), QPoint(270, 140));
 }
 
-QTEST_MAIN(tst_attacheddrag)
+KYR_GUI_TEST(tst_attacheddrag)
 #include "tst_attacheddrag.moc"

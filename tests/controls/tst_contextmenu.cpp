@@ -2,6 +2,7 @@
 #include "controls/HoverButton.h"
 #include "support/pictures.h"
 #include "support/pointer.h"
+#include "support/suite.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QScreen>
@@ -501,5 +502,5 @@ void tst_contextmenu::theTextsCanBeReadOnTheirGround()
     QVERIFY(contrastIn(rowPicture(stage, "First")) >= 4.5);
 }
 
-QTEST_MAIN(tst_contextmenu)
+KYR_GUI_TEST(tst_contextmenu)
 #include "tst_contextmenu.moc"

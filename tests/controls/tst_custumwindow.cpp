@@ -1,5 +1,6 @@
 #include "controls/custumwindow.h"
 #include "support/pointer.h"
+#include "support/suite.h"
 
 #include <QtGui/QScreen>
 
@@ -249,5 +250,5 @@ void tst_custumwindow::withoutACloseRequestTheWindowCloses()
     QVERIFY(!stage.window.isVisible());
 }
 
-QTEST_MAIN(tst_custumwindow)
+KYR_GUI_TEST(tst_custumwindow)
 #include "tst_custumwindow.moc"

@@ -1,6 +1,7 @@
 #include "controls/faces.h"
 #include "support/pictures.h"
 #include "support/pointer.h"
+#include "support/suite.h"
 
 /// Cutting the faces of controls from a window's pictures.
 class tst_faces : public QObject
@@ -104,5 +105,5 @@ void tst_faces::aBarIsUncoveredFromTheHoverPicture()
     QCOMPARE(extentOf(shown(bar), Qt::green), QRect(20, 0, 20, 20));
 }
 
-QTEST_MAIN(tst_faces)
+KYR_GUI_TEST(tst_faces)
 #include "tst_faces.moc"

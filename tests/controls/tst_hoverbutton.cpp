@@ -1,4 +1,5 @@
 #include "controls/buttonstage.h"
+#include "support/suite.h"
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QTextDocument>
@@ -215,5 +216,5 @@ void tst_hoverbutton::theCaptionIsToldToAssistiveTechnology()
     QCOMPARE(stage.button.captionText(), QStringLiteral("Jump"));
 }
 
-QTEST_MAIN(tst_hoverbutton)
+KYR_GUI_TEST(tst_hoverbutton)
 #include "tst_hoverbutton.moc"

@@ -1,4 +1,5 @@
 #include "controls/buttonstage.h"
+#include "support/suite.h"
 
 /// The skinned button: what clicks and keys do.
 class tst_hoverbuttonclicks : public QObject
@@ -220,5 +221,5 @@ void tst_hoverbuttonclicks::aRightPressMayDeleteTheButton()
     QTest::mouseRelease(&stage.window, Qt::RightButton, {}, {1, 1});
 }
 
-QTEST_MAIN(tst_hoverbuttonclicks)
+KYR_GUI_TEST(tst_hoverbuttonclicks)
 #include "tst_hoverbuttonclicks.moc"

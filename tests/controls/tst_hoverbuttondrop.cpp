@@ -1,5 +1,6 @@
 #include "controls/buttonstage.h"
 #include "support/drop.h"
+#include "support/suite.h"
 
 /// The skinned button as a place to drop texts on.
 class tst_hoverbuttondrop : public QObject
@@ -122,5 +123,5 @@ void tst_hoverbuttondrop::theFaceShowsADragOverTheButton()
     QCOMPARE(stage.face(), kNormalFace);
 }
 
-QTEST_MAIN(tst_hoverbuttondrop)
+KYR_GUI_TEST(tst_hoverbuttondrop)
 #include "tst_hoverbuttondrop.moc"

@@ -1,4 +1,5 @@
 #include "controls/liststage.h"
+#include "support/suite.h"
 
 /// The list of text rows: its contents, selecting, the double click, the keyboard.
 class tst_pnglistbox : public QObject
@@ -283,5 +284,5 @@ void tst_pnglistbox::rowsStandForFunctions()
     QTEST(list.getfunctionid(row), "code");
 }
 
-QTEST_MAIN(tst_pnglistbox)
+KYR_GUI_TEST(tst_pnglistbox)
 #include "tst_pnglistbox.moc"

@@ -1,4 +1,5 @@
 #include "controls/liststage.h"
+#include "support/suite.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QDrag>
@@ -119,5 +120,5 @@ void tst_pnglistboxdrag::theRowIsHeldWhereItWasPressed()
     QCOMPARE(drag->hotSpot(), QPoint(20, 7));
 }
 
-QTEST_MAIN(tst_pnglistboxdrag)
+KYR_GUI_TEST(tst_pnglistboxdrag)
 #include "tst_pnglistboxdrag.moc"

@@ -1,5 +1,6 @@
 #include "controls/liststage.h"
 #include "support/pictures.h"
+#include "support/suite.h"
 
 /// How the list of text rows is drawn.
 class tst_pnglistboxlooks : public QObject
@@ -122,5 +123,5 @@ void tst_pnglistboxlooks::aClearedListIsBlack()
     QVERIFY(extentOfOther(shown(stage.list), Qt::black).isEmpty());
 }
 
-QTEST_MAIN(tst_pnglistboxlooks)
+KYR_GUI_TEST(tst_pnglistboxlooks)
 #include "tst_pnglistboxlooks.moc"

@@ -1,6 +1,8 @@
 #include "controls/pngProgressBar.h"
+#include "progressbarstyles.h"
 #include "support/pointer.h"
 #include "support/receiver.h"
+#include "support/suite.h"
 
 #include <QtGui/QAccessible>
 
@@ -49,9 +51,6 @@ struct BarStage
     pngProgressBar bar;
     Changes changes;
 };
-
-constexpr int kHorizontal = 1;
-constexpr int kVertical = 0;
 
 } // namespace
 
@@ -289,5 +288,5 @@ void tst_pngprogressbar::assistiveTechnologyMovesTheBarWhereTheUserMay()
     QCOMPARE(stage.changes.count(), std::size_t{allowed ? 1U : 0U});
 }
 
-QTEST_MAIN(tst_pngprogressbar)
+KYR_GUI_TEST(tst_pngprogressbar)
 #include "tst_pngprogressbar.moc"

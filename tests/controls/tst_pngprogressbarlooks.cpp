@@ -1,7 +1,7 @@
 #include "controls/pngProgressBar.h"
+#include "progressbarstyles.h"
 #include "support/pictures.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// How the bar is drawn.
 class tst_pngprogressbarlooks : public QObject
@@ -13,13 +13,6 @@ private Q_SLOTS:
     void theOverPictureIsUncoveredAsFarAsThePosition();
     void theOverPictureIsShownFromItsOwnLowerLeft();
 };
-
-namespace {
-
-constexpr int kHorizontal = 1;
-constexpr int kVertical = 0;
-
-} // namespace
 
 void tst_pngprogressbarlooks::theOverPictureIsUncoveredAsFarAsThePosition_data()
 {
@@ -73,5 +66,5 @@ void tst_pngprogressbarlooks::theOverPictureIsShownFromItsOwnLowerLeft()
     QCOMPARE(extentOf(shown(bar), Qt::yellow), mark);
 }
 
-QTEST_MAIN(tst_pngprogressbarlooks)
+KYR_GUI_TEST(tst_pngprogressbarlooks)
 #include "tst_pngprogressbarlooks.moc"

@@ -1,5 +1,6 @@
 #include "controls/custumwindow.h"
 #include "support/pointer.h"
+#include "support/suite.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QScreen>
@@ -188,12 +189,16 @@ void tst_screens::aFrameIsKeptOnEveryScreen()
     QCOMPARE(stage.window.geometry(), QRect(screen.x() + 40, screen.y() + 50, 200, 150));
 }
 
-int main(int argc, char **argv)
+namespace {
+
+int runWithSeveralScreens(int argc, char **argv)
 {
     const QTemporaryDir folder;
     describeScreens(folder);
-    const QApplication application(argc, argv);
-    tst_screens test;
-    return QTest::qExec(&test, argc, argv);
+    return suite::runWithin<tst_screens, QApplication>(argc, argv);
 }
+
+} // namespace
+
+KYR_TEST_RUN_BY(tst_screens, runWithSeveralScreens)
 #include "tst_screens.moc"

@@ -1,6 +1,7 @@
 #include "controls/custumwindow.h"
 #include "support/focus.h"
 #include "support/keyboard.h"
+#include "support/suite.h"
 
 /// The tab key's way from one window to the next, and the frame that shows where it is.
 class tst_tabneighbours : public QObject
@@ -185,5 +186,5 @@ void tst_tabneighbours::aDisabledControlThatShowedItPassesItOn()
     QCOMPARE(focusFrames(stage.a), QStringList(QStringLiteral("2")));
 }
 
-QTEST_MAIN(tst_tabneighbours)
+KYR_GUI_TEST(tst_tabneighbours)
 #include "tst_tabneighbours.moc"

@@ -1,6 +1,7 @@
 #include "daemon/driverprogram.h"
 #include "driver/driverlink.h"
 #include "platform/notificationcenter_dbus.h"
+#include "support/suite.h"
 #include "support/testsettings.h"
 
 #include <QtCore/QDir>
@@ -15,19 +16,22 @@ namespace {
 
 const QString kClient = QStringLiteral("client");
 
+} // namespace
+
 /// The settings utility's end: posts requests and keeps the reports.
-struct Client
+struct DriverClient
 {
-    explicit Client(const PrivateBus &bus) : connection(bus.connection(kClient)), center(connection)
+    explicit DriverClient(const PrivateBus &bus)
+        : connection(bus.connection(kClient)), center(connection)
     {
         link.observe(driver::kProgressReport, [this](int value) { progress.append(value); });
         link.observe(driver::kFirmwareReport, [this](int value) { firmware.append(value); });
         link.observe(driver::kLiftDistanceReport, [this](int value) { lift.append(value); });
         link.observe(driver::kProfileReport, [this](int value) { profiles.append(value); });
     }
-    ~Client() { QDBusConnection::disconnectFromBus(kClient); }
-    Client(const Client &) = delete;
-    Client &operator=(const Client &) = delete;
+    ~DriverClient() { QDBusConnection::disconnectFromBus(kClient); }
+    DriverClient(const DriverClient &) = delete;
+    DriverClient &operator=(const DriverClient &) = delete;
 
     void post(const QVariantMap &userInfo)
     {
@@ -52,6 +56,8 @@ struct Client
     QList<int> lift;
     QList<int> profiles;
 };
+
+namespace {
 
 /// A settings file with the first-start defaults but for a few values.
 void writeSettings(const TestSettings &settings, std::uint32_t profileId, FunctionCode fifthButton)
@@ -78,7 +84,7 @@ QString settingsLine(int profile, int fifthButton)
 } // namespace
 
 /// The driver process as other programs see it.
-class TestKt7r4d : public QObject
+class tst_kt7r4d : public QObject
 {
     Q_OBJECT
 
@@ -128,28 +134,28 @@ private:
 
     std::unique_ptr<TestSettings> m_settings;
     std::unique_ptr<PrivateBus> m_bus;
-    std::unique_ptr<Client> m_client;
+    std::unique_ptr<DriverClient> m_client;
     std::unique_ptr<DriverProgram> m_driver;
     QString m_stateFolder;
 };
 
-void TestKt7r4d::init()
+void tst_kt7r4d::init()
 {
     m_settings = std::make_unique<TestSettings>();
     m_stateFolder = m_settings->folder() + QStringLiteral("/state/mouse");
     m_bus = std::make_unique<PrivateBus>();
-    m_client = std::make_unique<Client>(*m_bus);
+    m_client = std::make_unique<DriverClient>(*m_bus);
     start();
 }
 
-void TestKt7r4d::cleanup()
+void tst_kt7r4d::cleanup()
 {
     m_driver.reset();
     m_client.reset();
     m_bus.reset();
 }
 
-void TestKt7r4d::takingSettingsIsLoggedAndProgressRisesToAHundred()
+void tst_kt7r4d::takingSettingsIsLoggedAndProgressRisesToAHundred()
 {
     writeSettings(*m_settings, 0, 4);
     m_client->link.request(RequestType::TakeSettings);
@@ -164,7 +170,7 @@ void TestKt7r4d::takingSettingsIsLoggedAndProgressRisesToAHundred()
     QVERIFY(m_client->description().endsWith(settingsLine(1, 4)));
 }
 
-void TestKt7r4d::everyRequestToTakeSettingsIsCarriedOut()
+void tst_kt7r4d::everyRequestToTakeSettingsIsCarriedOut()
 {
     writeSettings(*m_settings, 0, 4);
     m_client->link.request(RequestType::TakeSettings);
@@ -179,13 +185,13 @@ void TestKt7r4d::everyRequestToTakeSettingsIsCarriedOut()
     QVERIFY(m_client->description().contains(QStringLiteral("ACTIVE_PROFILE=7 ")));
 }
 
-void TestKt7r4d::theFirmwareVersionIsReported()
+void tst_kt7r4d::theFirmwareVersionIsReported()
 {
     m_client->link.request(RequestType::ReportFirmware);
     QTRY_COMPARE(m_client->firmware, QList<int>{0x0102});
 }
 
-void TestKt7r4d::theLiftDistanceIsReportedAsSet()
+void tst_kt7r4d::theLiftDistanceIsReportedAsSet()
 {
     m_client->link.request(RequestType::ReportLiftDistance);
     QTRY_COMPARE(m_client->lift, QList<int>{2});
@@ -195,7 +201,7 @@ void TestKt7r4d::theLiftDistanceIsReportedAsSet()
     logs(QStringLiteral("SetLiftDistance is now 0"));
 }
 
-void TestKt7r4d::aLiftDistanceOutOfRangeIsIgnored()
+void tst_kt7r4d::aLiftDistanceOutOfRangeIsIgnored()
 {
     for (const int value : {-1, 3})
         m_client->link.request(RequestType::SetLiftDistance, driver::kSetLiftDistanceKey, value);
@@ -204,7 +210,7 @@ void TestKt7r4d::aLiftDistanceOutOfRangeIsIgnored()
     QVERIFY(m_client->description().contains(QStringLiteral("LIFT_DISTANCE=2 ")));
 }
 
-void TestKt7r4d::thePollingRateIsKept()
+void tst_kt7r4d::thePollingRateIsKept()
 {
     QVERIFY(m_client->description().contains(QStringLiteral("POLLING_RATE=1 ")));
     m_client->link.request(RequestType::SetPollingRate, driver::kPollingRateKey, 3);
@@ -212,7 +218,7 @@ void TestKt7r4d::thePollingRateIsKept()
     QVERIFY(m_client->description().contains(QStringLiteral("POLLING_RATE=3 ")));
 }
 
-void TestKt7r4d::aPollingRateOutOfRangeIsIgnored()
+void tst_kt7r4d::aPollingRateOutOfRangeIsIgnored()
 {
     for (const int value : {0, 4})
         m_client->link.request(RequestType::SetPollingRate, driver::kPollingRateKey, value);
@@ -221,7 +227,7 @@ void TestKt7r4d::aPollingRateOutOfRangeIsIgnored()
     QVERIFY(m_client->description().contains(QStringLiteral("POLLING_RATE=1 ")));
 }
 
-void TestKt7r4d::theProfileButtonGoesRoundAndIsReported()
+void tst_kt7r4d::theProfileButtonGoesRoundAndIsReported()
 {
     const QList<int> expected = {2, 3, 4, 5, 6, 7, 8, 9, 10, 1};
     QList<int> answered;
@@ -231,7 +237,7 @@ void TestKt7r4d::theProfileButtonGoesRoundAndIsReported()
     QTRY_COMPARE(m_client->profiles, expected);
 }
 
-void TestKt7r4d::anActiveProfileOutOfRangeIsRefused()
+void tst_kt7r4d::anActiveProfileOutOfRangeIsRefused()
 {
     QCOMPARE(QDBusReply<bool>(m_client->call("SetActiveProfile", {10})).value(), true);
     for (const int number : {-1, 0, 11}) {
@@ -243,7 +249,7 @@ void TestKt7r4d::anActiveProfileOutOfRangeIsRefused()
     QTRY_COMPARE(m_client->profiles, (QList<int>{10, 1}));
 }
 
-void TestKt7r4d::theMouseKeepsItsMemoryOverARestart()
+void tst_kt7r4d::theMouseKeepsItsMemoryOverARestart()
 {
     writeSettings(*m_settings, 2, 4);
     m_client->link.request(RequestType::SetPollingRate, driver::kPollingRateKey, 2);
@@ -258,7 +264,7 @@ void TestKt7r4d::theMouseKeepsItsMemoryOverARestart()
     QCOMPARE(m_client->description(), before);
 }
 
-void TestKt7r4d::badFilesAreNamedAndTheNextGoodOneIsTaken_data()
+void tst_kt7r4d::badFilesAreNamedAndTheNextGoodOneIsTaken_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("said");
@@ -269,7 +275,7 @@ void TestKt7r4d::badFilesAreNamedAndTheNextGoodOneIsTaken_data()
     QTest::newRow("cut short") << "cut" << QStringLiteral("is not a property list");
 }
 
-void TestKt7r4d::badFilesAreNamedAndTheNextGoodOneIsTaken()
+void tst_kt7r4d::badFilesAreNamedAndTheNextGoodOneIsTaken()
 {
     QFETCH(const QString, kind);
     QFETCH(const QString, said);
@@ -300,7 +306,7 @@ void TestKt7r4d::badFilesAreNamedAndTheNextGoodOneIsTaken()
     QTRY_COMPARE(m_client->progress.count(100), 2);
 }
 
-void TestKt7r4d::malformedRequestsAreNamedAndIgnored_data()
+void tst_kt7r4d::malformedRequestsAreNamedAndIgnored_data()
 {
     const QString type = QStringLiteral("Kt7R4SettingChangeType");
     const QString noType =
@@ -328,7 +334,7 @@ void TestKt7r4d::malformedRequestsAreNamedAndIgnored_data()
         << QStringLiteral("a request of type 12 without an integer SetLiftDistance is ignored");
 }
 
-void TestKt7r4d::malformedRequestsAreNamedAndIgnored()
+void tst_kt7r4d::malformedRequestsAreNamedAndIgnored()
 {
     QFETCH(const QVariantMap, userInfo);
     QFETCH(const QString, said);
@@ -339,7 +345,7 @@ void TestKt7r4d::malformedRequestsAreNamedAndIgnored()
     QCOMPARE(m_client->description(), before);
 }
 
-void TestKt7r4d::aStateFolderThatCannotBeMadeIsNamed()
+void tst_kt7r4d::aStateFolderThatCannotBeMadeIsNamed()
 {
     m_settings->put("a file, not a folder");
     m_stateFolder = QString::fromStdString(m_settings->path()) + QStringLiteral("/state");
@@ -351,21 +357,21 @@ void TestKt7r4d::aStateFolderThatCannotBeMadeIsNamed()
     QTRY_COMPARE(m_client->lift, QList<int>{1});
 }
 
-void TestKt7r4d::terminationEndsWithSuccess_data()
+void tst_kt7r4d::terminationEndsWithSuccess_data()
 {
     QTest::addColumn<int>("signalNumber");
     QTest::newRow("SIGTERM") << SIGTERM;
     QTest::newRow("SIGINT") << SIGINT;
 }
 
-void TestKt7r4d::terminationEndsWithSuccess()
+void tst_kt7r4d::terminationEndsWithSuccess()
 {
     QFETCH(const int, signalNumber);
     QCOMPARE(::kill(static_cast<pid_t>(m_driver->id()), signalNumber), 0);
     QTRY_VERIFY(m_driver->hasEnded(0));
 }
 
-void TestKt7r4d::aSecondDriverProcessEndsAtOnce()
+void tst_kt7r4d::aSecondDriverProcessEndsAtOnce()
 {
     const DriverProgram second(m_bus->environment(), arguments());
     QTRY_VERIFY(second.hasEnded(1));
@@ -375,7 +381,7 @@ void TestKt7r4d::aSecondDriverProcessEndsAtOnce()
     QVERIFY(m_driver->isRunning());
 }
 
-void TestKt7r4d::withoutABusItEndsAtOnce()
+void tst_kt7r4d::withoutABusItEndsAtOnce()
 {
     auto environment = m_bus->environment();
     environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
@@ -385,14 +391,14 @@ void TestKt7r4d::withoutABusItEndsAtOnce()
     QCOMPARE(driver.lines(), QStringList{QStringLiteral("kt7r4d: there is no session bus")});
 }
 
-void TestKt7r4d::whenTheBusGoesItEnds()
+void tst_kt7r4d::whenTheBusGoesItEnds()
 {
     m_bus->stop();
     QTRY_VERIFY(m_driver->hasEnded(1));
     QVERIFY(m_driver->says(QStringLiteral("kt7r4d: the session bus is gone")));
 }
 
-void TestKt7r4d::theOptionsAreExplained()
+void tst_kt7r4d::theOptionsAreExplained()
 {
     DriverProgram help(m_bus->environment(), {QStringLiteral("--help")});
     QTRY_VERIFY(help.hasEnded(0));
@@ -403,5 +409,5 @@ void TestKt7r4d::theOptionsAreExplained()
     QTRY_VERIFY(unknown.hasEnded(1));
 }
 
-QTEST_GUILESS_MAIN(TestKt7r4d)
+KYR_CORE_TEST(tst_kt7r4d)
 #include "tst_kt7r4d.moc"

@@ -4,10 +4,10 @@
 #include "driver/driverlink.h"
 #include "support/localnotificationcenter.h"
 #include "support/logcapture.h"
+#include "support/suite.h"
 #include "support/testsettings.h"
 
 #include <QtCore/QDir>
-#include <QtTest/QTest>
 
 using driver::RequestType;
 
@@ -55,7 +55,7 @@ const QList<int> kWholeWrite = {5,  10, 15, 20, 25, 30, 35, 40, 45, 50,
 
 } // namespace
 
-class TestVirtualMouse : public QObject
+class tst_virtualmouse : public QObject
 {
     Q_OBJECT
 
@@ -72,7 +72,7 @@ private Q_SLOTS:
     void anUnwritableFolderIsNamedAndTheMouseWorks();
 };
 
-void TestVirtualMouse::aWriteRunsFromTheEventLoopAndTakesEffectAtItsEnd()
+void tst_virtualmouse::aWriteRunsFromTheEventLoopAndTakesEffectAtItsEnd()
 {
     Mouse mouse;
     mouse.save(4);
@@ -83,7 +83,7 @@ void TestVirtualMouse::aWriteRunsFromTheEventLoopAndTakesEffectAtItsEnd()
     QCOMPARE(mouse.log.count("profile 1 is on board"), 1);
 }
 
-void TestVirtualMouse::aRequestInTheMiddleOfAWriteStartsAnew()
+void tst_virtualmouse::aRequestInTheMiddleOfAWriteStartsAnew()
 {
     Mouse mouse;
     mouse.save(4);
@@ -99,7 +99,7 @@ void TestVirtualMouse::aRequestInTheMiddleOfAWriteStartsAnew()
     QCOMPARE(mouse.log.count("profile 1 is on board"), 1);
 }
 
-void TestVirtualMouse::aBadFileInTheMiddleOfAWriteLetsItFinish()
+void tst_virtualmouse::aBadFileInTheMiddleOfAWriteLetsItFinish()
 {
     Mouse mouse;
     mouse.save(4);
@@ -116,7 +116,7 @@ void TestVirtualMouse::aBadFileInTheMiddleOfAWriteLetsItFinish()
                                " is not a property list: the mouse stays as it is"));
 }
 
-void TestVirtualMouse::aRequestAtTheEndOfAWriteIsCarriedOut()
+void tst_virtualmouse::aRequestAtTheEndOfAWriteIsCarriedOut()
 {
     Mouse mouse;
     mouse.save(4);
@@ -131,7 +131,7 @@ void TestVirtualMouse::aRequestAtTheEndOfAWriteIsCarriedOut()
     QVERIFY(mouse.holds(5));
 }
 
-void TestVirtualMouse::aProfileNumberOutOfRangeMeansTheFirst()
+void tst_virtualmouse::aProfileNumberOutOfRangeMeansTheFirst()
 {
     for (const std::uint32_t outside : {10U, 0xFFFFFFFFU}) {
         Mouse mouse;
@@ -146,7 +146,7 @@ void TestVirtualMouse::aProfileNumberOutOfRangeMeansTheFirst()
     }
 }
 
-void TestVirtualMouse::theMacrosThatButtonsPlayGoOnBoard()
+void tst_virtualmouse::theMacrosThatButtonsPlayGoOnBoard()
 {
     ProfileInfo &profile = m_Config.PROFILE[0];
     profile = {};
@@ -167,7 +167,7 @@ void TestVirtualMouse::theMacrosThatButtonsPlayGoOnBoard()
     QCOMPARE(keymap("MACRO_51"), std::string("none"));
 }
 
-void TestVirtualMouse::anEmptyMemoryShowsNothing()
+void tst_virtualmouse::anEmptyMemoryShowsNothing()
 {
     const Mouse mouse;
     const std::string text = mouse.driver.describe();
@@ -175,7 +175,7 @@ void TestVirtualMouse::anEmptyMemoryShowsNothing()
     QVERIFY(text.ends_with(" BUTTON_13=0 BUTTON_14=0"));
 }
 
-void TestVirtualMouse::storedValuesOutOfRangeAreNotTaken()
+void tst_virtualmouse::storedValuesOutOfRangeAreNotTaken()
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("mouse.xml")));
@@ -192,7 +192,7 @@ void TestVirtualMouse::storedValuesOutOfRangeAreNotTaken()
     QCOMPARE(log.lines.size(), std::size_t{2});
 }
 
-void TestVirtualMouse::brokenStateStartsAsDelivered()
+void tst_virtualmouse::brokenStateStartsAsDelivered()
 {
     const QTemporaryDir folder;
     const std::string path = folder.path().toStdString();
@@ -208,7 +208,7 @@ void TestVirtualMouse::brokenStateStartsAsDelivered()
     QVERIFY(log.contains(path + "/onboard.xml cannot be read"));
 }
 
-void TestVirtualMouse::anUnwritableFolderIsNamedAndTheMouseWorks()
+void tst_virtualmouse::anUnwritableFolderIsNamedAndTheMouseWorks()
 {
     const QTemporaryDir folder;
     const std::string path = folder.path().toStdString();
@@ -226,5 +226,5 @@ void TestVirtualMouse::anUnwritableFolderIsNamedAndTheMouseWorks()
     QVERIFY(mouse.log.contains(path + "/onboard.xml cannot be written"));
 }
 
-QTEST_GUILESS_MAIN(TestVirtualMouse)
+KYR_CORE_TEST(tst_virtualmouse)
 #include "tst_virtualmouse.moc"

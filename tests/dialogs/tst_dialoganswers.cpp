@@ -1,4 +1,5 @@
 #include "dialogs/dialogstage.h"
+#include "support/suite.h"
 
 /// What each answer to a message dialog does: by mouse, by key and by the desktop.
 class tst_dialoganswers : public QObject
@@ -270,5 +271,5 @@ void tst_dialoganswers::aDialogOpenedDuringTheRunEndsFirst()
     QCOMPARE(outerAnswers.came, QStringList(QStringLiteral("NO")));
 }
 
-QTEST_MAIN(tst_dialoganswers)
+KYR_GUI_TEST(tst_dialoganswers)
 #include "tst_dialoganswers.moc"

@@ -1,4 +1,5 @@
 #include "dialogs/dialogstage.h"
+#include "support/suite.h"
 
 /// The keyboard and the pointer in a message dialog, before it is answered.
 class tst_dialogkeys : public QObject
@@ -167,5 +168,5 @@ void tst_dialogkeys::aDragByTheBackgroundMovesTheDialog()
     });
 }
 
-QTEST_MAIN(tst_dialogkeys)
+KYR_GUI_TEST(tst_dialogkeys)
 #include "tst_dialogkeys.moc"

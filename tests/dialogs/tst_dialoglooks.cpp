@@ -1,5 +1,6 @@
 #include "dialogs/dialogstage.h"
 #include "dialogs/textfit.h"
+#include "support/suite.h"
 
 #include <QtGui/QAccessible>
 
@@ -222,5 +223,5 @@ void tst_dialoglooks::newTextsTakeTheOldOnesPlace()
     QCOMPARE(stage.view->strText(), QString());
 }
 
-QTEST_MAIN(tst_dialoglooks)
+KYR_GUI_TEST(tst_dialoglooks)
 #include "tst_dialoglooks.moc"

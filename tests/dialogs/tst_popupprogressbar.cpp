@@ -2,6 +2,7 @@
 #include "support/pictures.h"
 #include "support/pointer.h"
 #include "support/skinpictures.h"
+#include "support/suite.h"
 
 /// The insides of the progress window.
 class tst_popupprogressbar : public QObject
@@ -133,5 +134,5 @@ void tst_popupprogressbar::theUserCannotChangeTheBar()
     QCOMPARE(stage.view.progressPos(), 30);
 }
 
-QTEST_MAIN(tst_popupprogressbar)
+KYR_GUI_TEST(tst_popupprogressbar)
 #include "tst_popupprogressbar.moc"

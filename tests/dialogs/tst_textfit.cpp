@@ -1,7 +1,6 @@
 #include "dialogs/textfit.h"
 #include "platform/canvas.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// Fitting a message into its box.
 class tst_textfit : public QObject
@@ -117,5 +116,5 @@ void tst_textfit::aTextThatNeverFitsHasTheSmallestSize()
     QCOMPARE(fitText(QStringLiteral("line\n").repeated(1000), kBox, 12).fontSize, 1);
 }
 
-QTEST_MAIN(tst_textfit)
+KYR_GUI_TEST(tst_textfit)
 #include "tst_textfit.moc"

@@ -1,7 +1,6 @@
 #include "driver/driverlink.h"
 #include "support/localnotificationcenter.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 using driver::DriverLink;
 using driver::Report;
@@ -207,5 +206,5 @@ void tst_driverlink::everyReceiverOfAReportGetsIt()
     QCOMPARE(second, 4);
 }
 
-QTEST_APPLESS_MAIN(tst_driverlink)
+KYR_PLAIN_TEST(tst_driverlink)
 #include "tst_driverlink.moc"

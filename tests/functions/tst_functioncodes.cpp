@@ -2,8 +2,7 @@
 
 #include "functions/functioncodes.h"
 #include "model/fixedtext.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// What the codes on the mouse's buttons mean.
 class tst_functioncodes : public QObject
@@ -238,5 +237,5 @@ void tst_functioncodes::aPlaceNamesItsCommand()
     QTEST(GetSubTitle(category, item), "name");
 }
 
-QTEST_APPLESS_MAIN(tst_functioncodes)
+KYR_PLAIN_TEST(tst_functioncodes)
 #include "tst_functioncodes.moc"

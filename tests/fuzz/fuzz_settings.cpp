@@ -1,10 +1,10 @@
 #include "support/binaryplist.h"
 #include "support/logcapture.h"
 #include "support/plistxml.h"
+#include "support/suite.h"
 #include "support/testsettings.h"
 
 #include <QtCore/QElapsedTimer>
-#include <QtTest/QTest>
 
 #include <algorithm>
 #include <cstring>
@@ -330,5 +330,5 @@ void fuzz_settings::aHostileFileIsDoneWithSoon()
     QVERIFY(isValid(m_Config));
 }
 
-QTEST_APPLESS_MAIN(fuzz_settings)
+KYR_PLAIN_TEST(fuzz_settings)
 #include "fuzz_settings.moc"

@@ -1,5 +1,6 @@
 #include "support/drop.h"
 #include "support/mainwindow.h"
+#include "support/suite.h"
 
 /// Selecting mouse buttons and giving them functions.
 class tst_assignment : public QObject
@@ -243,5 +244,5 @@ void tst_assignment::handlesAreGivenByNumber()
     QTEST(handle ? handle->objectName() : QString(), "name");
 }
 
-QTEST_MAIN(tst_assignment)
+KYR_GUI_TEST(tst_assignment)
 #include "tst_assignment.moc"

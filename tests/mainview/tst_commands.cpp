@@ -1,6 +1,7 @@
 #include "mainviewcontrols.h"
 #include "progressstage.h"
 #include "support/drop.h"
+#include "support/suite.h"
 
 #include <QtWidgets/QMenu>
 
@@ -226,5 +227,5 @@ void tst_commands::aRightClickOnACommandDoesNothing()
     }
 }
 
-QTEST_MAIN(tst_commands)
+KYR_GUI_TEST(tst_commands)
 #include "tst_commands.moc"

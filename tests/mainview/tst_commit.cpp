@@ -1,5 +1,6 @@
 #include "support/drop.h"
 #include "support/mainwindow.h"
+#include "support/suite.h"
 
 #include <QtCore/QDir>
 
@@ -178,5 +179,5 @@ void tst_commit::aFailingWriteIsLoggedAndStillTold()
     QCOMPARE(m_Config.PROFILE[0].BUTTON[2], 11U);
 }
 
-QTEST_MAIN(tst_commit)
+KYR_GUI_TEST(tst_commit)
 #include "tst_commit.moc"

@@ -2,6 +2,7 @@
 #include "support/drop.h"
 #include "support/mainwindow.h"
 #include "support/menus.h"
+#include "support/suite.h"
 
 /// The settings of the Tools menu: polling rate, lift distance and the warning before a macro is
 /// deleted.
@@ -240,5 +241,5 @@ void tst_devicesettings::whatIsWrittenIncludesTheEdits()
     QCOMPARE(m_Config.PROFILE[2].BUTTON[2], 11U);
 }
 
-QTEST_MAIN(tst_devicesettings)
+KYR_GUI_TEST(tst_devicesettings)
 #include "tst_devicesettings.moc"

@@ -1,6 +1,7 @@
 #include "progressstage.h"
 #include "support/dialogs.h"
 #include "support/drop.h"
+#include "support/suite.h"
 
 /// What the reports of the driver process do to the main view.
 class tst_driverreports : public QObject
@@ -218,5 +219,5 @@ void tst_driverreports::reportsAfterTheEndGoNowhere()
     QCOMPARE(m_Config.PROFILE_ID, 0U);
 }
 
-QTEST_MAIN(tst_driverreports)
+KYR_GUI_TEST(tst_driverreports)
 #include "tst_driverreports.moc"

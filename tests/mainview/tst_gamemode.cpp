@@ -1,6 +1,7 @@
 #include "faces.h"
 #include "support/drop.h"
 #include "support/mainwindow.h"
+#include "support/suite.h"
 
 /// The in-game mode.
 class tst_gamemode : public QObject
@@ -145,5 +146,5 @@ void tst_gamemode::theGaugeFollowsWithTheNextRecount()
     QCOMPARE(stage.view().memoryUsage(), 0U);
 }
 
-QTEST_MAIN(tst_gamemode)
+KYR_GUI_TEST(tst_gamemode)
 #include "tst_gamemode.moc"

@@ -5,6 +5,7 @@
 #include "support/menus.h"
 #include "support/paintwatch.h"
 #include "support/pictures.h"
+#include "support/suite.h"
 
 /// The commands of the Profile menu: exporting the current profile to a file, and importing one.
 class tst_importexport : public QObject
@@ -316,5 +317,5 @@ void tst_importexport::theWindowsMayGoMeanwhile()
     QVERIFY(stage.isFileUntouched());
 }
 
-QTEST_MAIN(tst_importexport)
+KYR_GUI_TEST(tst_importexport)
 #include "tst_importexport.moc"

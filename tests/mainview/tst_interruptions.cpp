@@ -4,6 +4,7 @@
 #include "support/dialogs.h"
 #include "support/drop.h"
 #include "support/menus.h"
+#include "support/suite.h"
 
 /// What happens while something else goes on: reports of the driver process behind a dialog or
 /// during a drag, and the end of the program with a dialog open.
@@ -320,5 +321,5 @@ void tst_interruptions::theWindowsMayGoBehindAListOrMenu()
     QVERIFY(stage.isFileUntouched());
 }
 
-QTEST_MAIN(tst_interruptions)
+KYR_GUI_TEST(tst_interruptions)
 #include "tst_interruptions.moc"

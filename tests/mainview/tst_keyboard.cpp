@@ -3,6 +3,7 @@
 #include "support/dialogs.h"
 #include "support/drop.h"
 #include "support/menukeys.h"
+#include "support/suite.h"
 
 /// The main window without a mouse: controls, menus and dialogs.
 class tst_keyboard : public QObject
@@ -207,5 +208,5 @@ void tst_keyboard::escapeInTheMainWindowClosesNothing()
     QVERIFY(stage.isFileUntouched());
 }
 
-QTEST_MAIN(tst_keyboard)
+KYR_GUI_TEST(tst_keyboard)
 #include "tst_keyboard.moc"

@@ -1,6 +1,7 @@
 #include "faces.h"
 #include "support/mainwindow.h"
 #include "support/screen.h"
+#include "support/suite.h"
 
 #include <QtGui/QEnterEvent>
 #include <QtWidgets/QApplication>
@@ -320,5 +321,5 @@ void tst_layout::aNewColourIsDrawnWhenAPanelAsksForIt()
     QCOMPARE(onScreen(stage.window()), expected);
 }
 
-QTEST_MAIN(tst_layout)
+KYR_GUI_TEST(tst_layout)
 #include "tst_layout.moc"

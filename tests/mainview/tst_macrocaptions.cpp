@@ -1,6 +1,7 @@
 #include "model/fixedtext.h"
 #include "support/drop.h"
 #include "support/mainwindow.h"
+#include "support/suite.h"
 
 /// The names of macros on the mouse buttons.
 class tst_macrocaptions : public QObject
@@ -142,5 +143,5 @@ void tst_macrocaptions::aNameIsShownAsItStands()
     QCOMPARE(stage.caption(9), name);
 }
 
-QTEST_MAIN(tst_macrocaptions)
+KYR_GUI_TEST(tst_macrocaptions)
 #include "tst_macrocaptions.moc"

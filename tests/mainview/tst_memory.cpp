@@ -5,6 +5,7 @@
 #include "support/pictures.h"
 #include "support/screen.h"
 #include "support/skinpictures.h"
+#include "support/suite.h"
 
 /// What functions take in the mouse's memory, and the gauge that shows it.
 class tst_memory : public QObject
@@ -329,5 +330,5 @@ void tst_memory::anUnknownCurrentProfileCountsAsTheFirst()
     QCOMPARE(stage.view().memoryUsage(), 0U);
 }
 
-QTEST_MAIN(tst_memory)
+KYR_GUI_TEST(tst_memory)
 #include "tst_memory.moc"

@@ -2,6 +2,7 @@
 #include "support/dialogs.h"
 #include "support/mainwindow.h"
 #include "support/menukeys.h"
+#include "support/suite.h"
 
 /// The Profile, Tools and Help menus.
 class tst_menus : public QObject
@@ -487,5 +488,5 @@ void tst_menus::theProfilePageIsOpenedAsAnAddress()
     QVERIFY(stage.openedFiles.empty());
 }
 
-QTEST_MAIN(tst_menus)
+KYR_GUI_TEST(tst_menus)
 #include "tst_menus.moc"

@@ -2,6 +2,7 @@
 #include "quickliststage.h"
 #include "support/dialogs.h"
 #include "support/drop.h"
+#include "support/suite.h"
 
 /// Switching profiles with the profile keys, and the question about unsaved changes.
 class tst_profileswitch : public QObject
@@ -317,5 +318,5 @@ void tst_profileswitch::afterEveryAnswerNoEditIsPending()
     QVERIFY(stage.shows(1));
 }
 
-QTEST_MAIN(tst_profileswitch)
+KYR_GUI_TEST(tst_profileswitch)
 #include "tst_profileswitch.moc"

@@ -1,4 +1,5 @@
 #include "progressstage.h"
+#include "support/suite.h"
 
 /// The window that shows the progress of an on-board write.
 class tst_progresswindow : public QObject
@@ -138,5 +139,5 @@ void tst_progresswindow::closedByTheDesktopTheWindowEndsTheProgress()
     QCOMPARE(stage.progressView().progressPos(), 50);
 }
 
-QTEST_MAIN(tst_progresswindow)
+KYR_GUI_TEST(tst_progresswindow)
 #include "tst_progresswindow.moc"

@@ -1,4 +1,5 @@
 #include "quickliststage.h"
+#include "support/suite.h"
 
 /// The list of basic functions that a right click opens under a mouse button: opening it, choosing
 /// from it.
@@ -201,5 +202,5 @@ void tst_quicklist::aChoiceGoesIntoTheProfileShownByThen()
     QCOMPARE(stage.mouseButton(5).captionText(), QStringLiteral("Mouse Button 4"));
 }
 
-QTEST_MAIN(tst_quicklist)
+KYR_GUI_TEST(tst_quicklist)
 #include "tst_quicklist.moc"

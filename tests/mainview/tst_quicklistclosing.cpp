@@ -1,4 +1,5 @@
 #include "quickliststage.h"
+#include "support/suite.h"
 
 /// How the list of basic functions closes.
 class tst_quicklistclosing : public QObject
@@ -93,5 +94,5 @@ void tst_quicklistclosing::theProgramMayEndWithTheListOpen()
     QVERIFY(openLists().empty());
 }
 
-QTEST_MAIN(tst_quicklistclosing)
+KYR_GUI_TEST(tst_quicklistclosing)
 #include "tst_quicklistclosing.moc"

@@ -4,6 +4,7 @@
 #include "support/mainwindow.h"
 #include "support/paintwatch.h"
 #include "support/pictures.h"
+#include "support/suite.h"
 
 /// Restore Defaults.
 class tst_restore : public QObject
@@ -153,5 +154,5 @@ void tst_restore::whatWasRestoredCanBeDropped()
     QVERIFY(isRecord(*before));
 }
 
-QTEST_MAIN(tst_restore)
+KYR_GUI_TEST(tst_restore)
 #include "tst_restore.moc"

@@ -1,6 +1,7 @@
 #include "progressstage.h"
 #include "support/dialogs.h"
 #include "support/drop.h"
+#include "support/suite.h"
 
 /// Save On Board: what it does first and last, and when it is refused.
 class tst_saveonboard : public QObject
@@ -200,5 +201,5 @@ void tst_saveonboard::withoutADriverProcessTheWindowStays()
     QCOMPARE(stage.progressView().progressPos(), 0);
 }
 
-QTEST_MAIN(tst_saveonboard)
+KYR_GUI_TEST(tst_saveonboard)
 #include "tst_saveonboard.moc"

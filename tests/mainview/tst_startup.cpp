@@ -1,4 +1,5 @@
 #include "support/mainwindow.h"
+#include "support/suite.h"
 
 #include <QtCore/QDir>
 
@@ -165,5 +166,5 @@ void tst_startup::aMissingFolderIsNoObstacle()
     QVERIFY(!QFile::exists(settings.folder() + QStringLiteral("/missing")));
 }
 
-QTEST_MAIN(tst_startup)
+KYR_GUI_TEST(tst_startup)
 #include "tst_startup.moc"

@@ -1,6 +1,7 @@
 #include "model/fixedtext.h"
 #include "progressstage.h"
 #include "support/dialogs.h"
+#include "support/suite.h"
 
 /// Save On Board refuses what the mouse cannot store, and says why.
 class tst_validation : public QObject
@@ -313,5 +314,5 @@ void tst_validation::nothingIsChangedByIt()
     QVERIFY(std::memcmp(&m_Config, before.get(), sizeof m_Config) == 0);
 }
 
-QTEST_MAIN(tst_validation)
+KYR_GUI_TEST(tst_validation)
 #include "tst_validation.moc"

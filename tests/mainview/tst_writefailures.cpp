@@ -4,6 +4,7 @@
 #include "support/drop.h"
 #include "support/filesizelimit.h"
 #include "support/menus.h"
+#include "support/suite.h"
 #include "support/unprivileged.h"
 
 #include <QtCore/QDir>
@@ -255,5 +256,5 @@ void tst_writefailures::whatIsNoFileIsKeptBeside()
     QTEST(std::filesystem::status(stage.settings.path() + ".unreadable").type(), "type");
 }
 
-QTEST_MAIN(tst_writefailures)
+KYR_GUI_TEST(tst_writefailures)
 #include "tst_writefailures.moc"

@@ -7,6 +7,11 @@
 
 #include <cstring>
 #include <filesystem>
+#include <string>
+
+inline const std::string kWriteFail = "write fail!";
+/// The name of the settings file in the folder of a fixture.
+inline const QString kSettingsName = QStringLiteral("KT7R4Setting.xml");
 
 /// A store with a private settings file, its log lines taken.
 struct StoreFixture

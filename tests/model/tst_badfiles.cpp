@@ -1,9 +1,8 @@
 #include "storefixture.h"
 #include "support/binaryplist.h"
 #include "support/plistxml.h"
+#include "support/suite.h"
 #include "support/unprivileged.h"
-
-#include <QtTest/QTest>
 
 #include <sys/stat.h>
 
@@ -169,7 +168,7 @@ void tst_badfiles::bytesThatAreNoPropertyListGiveDefaults()
     QVERIFY(sameRecord(m_Config, firstStart()));
     QVERIFY(saysThatItCannotBeRead(fixture));
     QCOMPARE(fixture.settings.bytes(), bytes);
-    QCOMPARE(entries(fixture), QStringList{QStringLiteral("KT7R4Setting.xml")});
+    QCOMPARE(entries(fixture), QStringList{kSettingsName});
 }
 
 void tst_badfiles::aBinaryFileThatSharesObjectsIsRead_data()
@@ -220,7 +219,7 @@ void tst_badfiles::whatIsNoReadableFileGivesDefaults()
     loadIntoZeros(fixture);
     QVERIFY(sameRecord(m_Config, firstStart()));
     QVERIFY(saysThatItCannotBeRead(fixture));
-    QCOMPARE(entries(fixture), QStringList{QStringLiteral("KT7R4Setting.xml")});
+    QCOMPARE(entries(fixture), QStringList{kSettingsName});
 }
 
 void tst_badfiles::aMissingFileGivesDefaultsWithoutAWord_data()
@@ -300,5 +299,5 @@ void tst_badfiles::defaultsLeaveCharactersAndMacrosAsTheyAre()
     QCOMPARE(m_Config.PROFILE[4].BUTTON[13], 9U);
 }
 
-QTEST_APPLESS_MAIN(tst_badfiles)
+KYR_PLAIN_TEST(tst_badfiles)
 #include "tst_badfiles.moc"

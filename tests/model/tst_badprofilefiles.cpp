@@ -2,10 +2,10 @@
 #include "randomrecord.h"
 #include "storefixture.h"
 #include "support/filesizelimit.h"
+#include "support/suite.h"
 #include "support/unprivileged.h"
 
 #include <QtCore/QElapsedTimer>
-#include <QtTest/QTest>
 
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -36,8 +36,7 @@ private Q_SLOTS:
 
 namespace {
 
-const QString kName = QStringLiteral("Profile.XML");
-const std::vector<std::string> kWriteFail = {"write fail!"};
+const QString kProfileName = QStringLiteral("Profile.XML");
 
 /// A store, a full record and the path of a profile's file.
 struct ProfileFixture : StoreFixture
@@ -108,7 +107,7 @@ void tst_badprofilefiles::bytesThatAreNoPropertyListChangeNothing()
     ProfileFixture fixture;
     fixture.put(bytes);
     QVERIFY(fixture.isRefused());
-    QCOMPARE(entries(fixture), QStringList{kName});
+    QCOMPARE(entries(fixture), QStringList{kProfileName});
 }
 
 using Maker = void (*)(const std::string &path);
@@ -187,7 +186,7 @@ void tst_badprofilefiles::anUnreadableProfileLeavesTheSettingsFileInPlace()
     fixture.put("junk");
     QVERIFY(fixture.isRefused());
     fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), (QStringList{QStringLiteral("KT7R4Setting.xml"), kName}));
+    QCOMPARE(entries(fixture), (QStringList{kSettingsName, kProfileName}));
 }
 
 void tst_badprofilefiles::anExportThatFailsIsLoggedAndChangesNothing_data()
@@ -213,7 +212,7 @@ void tst_badprofilefiles::anExportThatFailsIsLoggedAndChangesNothing()
     fixture.store.setFilePanels(&panels);
 
     QVERIFY(fixture.store.ExportProfile(4));
-    QCOMPARE(fixture.log.lines, kWriteFail);
+    QCOMPARE(fixture.log.lines, std::vector{kWriteFail});
     QVERIFY(sameRecord(m_Config, *record));
     QCOMPARE(entries(fixture), before);
 }
@@ -228,9 +227,9 @@ void tst_badprofilefiles::anExportToAReadOnlyFolderKeepsTheOldFile()
         fixture.store.WriteProfileToFile(0, fixture.path());
     }
     setFolderMode(fixture, 0755);
-    QCOMPARE(fixture.log.lines, kWriteFail);
+    QCOMPARE(fixture.log.lines, std::vector{kWriteFail});
     QCOMPARE(fixture.bytes(), QByteArray("old"));
-    QCOMPARE(entries(fixture), QStringList{kName});
+    QCOMPARE(entries(fixture), QStringList{kProfileName});
 }
 
 void tst_badprofilefiles::anExportThatRunsOutOfRoomKeepsTheOldFile()
@@ -241,9 +240,9 @@ void tst_badprofilefiles::anExportThatRunsOutOfRoomKeepsTheOldFile()
         const FileSizeLimit limit(1000);
         fixture.store.WriteProfileToFile(0, fixture.path());
     }
-    QCOMPARE(fixture.log.lines, kWriteFail);
+    QCOMPARE(fixture.log.lines, std::vector{kWriteFail});
     QCOMPARE(fixture.bytes(), QByteArray("old"));
-    QCOMPARE(entries(fixture), QStringList{kName});
+    QCOMPARE(entries(fixture), QStringList{kProfileName});
 }
 
 void tst_badprofilefiles::anExportToAFullDiskKeepsTheOldFile()
@@ -253,16 +252,16 @@ void tst_badprofilefiles::anExportToAFullDiskKeepsTheOldFile()
     if (::mount("tmpfs", place.constData(), "tmpfs", 0, "size=32k") != 0)
         QSKIP("no disk may be mounted here");
     ProfileFixture fixture;
-    const QString path = disk.filePath(kName);
+    const QString path = disk.filePath(kProfileName);
     ProfileFixture::putInto(path, "old");
     fixture.store.WriteProfileToFile(0, path.toStdString());
     const QByteArray left = ProfileFixture::bytesOf(path);
     const QStringList names = QDir(disk.path()).entryList(QDir::Files | QDir::Hidden);
     QCOMPARE(::umount(place.constData()), 0);
-    QCOMPARE(fixture.log.lines, kWriteFail);
+    QCOMPARE(fixture.log.lines, std::vector{kWriteFail});
     QCOMPARE(left, QByteArray("old"));
-    QCOMPARE(names, QStringList{kName});
+    QCOMPARE(names, QStringList{kProfileName});
 }
 
-QTEST_APPLESS_MAIN(tst_badprofilefiles)
+KYR_PLAIN_TEST(tst_badprofilefiles)
 #include "tst_badprofilefiles.moc"

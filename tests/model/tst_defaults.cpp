@@ -1,6 +1,5 @@
 #include "model/xmlconfig.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 #include <cstring>
 
@@ -170,5 +169,5 @@ void tst_defaults::restoringAProfileOutsideRestoresTheFirst()
         QVERIFY(isFilled(bytesOf(m_Config.PROFILE[other]), sizeof(ProfileInfo)));
 }
 
-QTEST_APPLESS_MAIN(tst_defaults)
+KYR_PLAIN_TEST(tst_defaults)
 #include "tst_defaults.moc"

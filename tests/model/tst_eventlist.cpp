@@ -1,6 +1,5 @@
 #include "model/eventlist.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 #include <array>
 #include <vector>
@@ -34,7 +33,7 @@ bool operator==(const KeymapEvent &a, const KeymapEvent &b)
     return a.keycode == b.keycode && a.kind == b.kind && a.delay == b.delay;
 }
 
-using Events = std::vector<KeymapEvent>;
+using EventList = std::vector<KeymapEvent>;
 
 namespace {
 
@@ -46,9 +45,9 @@ std::string repeated(const std::string &text, int times)
     return result;
 }
 
-Events fullList()
+EventList fullList()
 {
-    Events events(500);
+    EventList events(500);
     for (std::uint32_t i = 0; i < 500; ++i)
         events[i] = {i, 1 + i % 2, 1000 - i};
     return events;
@@ -101,8 +100,8 @@ void tst_eventlist::aCursorPastTheEndGivesNothing()
 void tst_eventlist::aListIsReadTripleByTriple_data()
 {
     QTest::addColumn<std::string>("text");
-    QTest::addColumn<Events>("events");
-    const auto row = [](const char *name, const char *text, const Events &events) {
+    QTest::addColumn<EventList>("events");
+    const auto row = [](const char *name, const char *text, const EventList &events) {
         QTest::newRow(name) << std::string(text) << events;
     };
     row("empty", "", {{}, {}, {}});
@@ -121,7 +120,7 @@ void tst_eventlist::aListIsReadTripleByTriple_data()
 void tst_eventlist::aListIsReadTripleByTriple()
 {
     QFETCH(std::string, text);
-    Events events(3);
+    EventList events(3);
     readEventList(text, events);
     QTEST(events, "events");
 }
@@ -155,16 +154,16 @@ void tst_eventlist::aNumberIsItsLeadingDigits()
 {
     QFETCH(std::string, token);
     QFETCH(std::uint32_t, number);
-    Events events(1);
+    EventList events(1);
     readEventList("3," + token + ",4,", events);
-    QCOMPARE(events, (Events{{3, number, 4}}));
+    QCOMPARE(events, (EventList{{3, number, 4}}));
 }
 
 void tst_eventlist::readingClearsTheListFirst()
 {
-    Events events(4, {9, 9, 9});
+    EventList events(4, {9, 9, 9});
     readEventList("1,2,3,", events);
-    QCOMPARE(events, (Events{{1, 2, 3}, {}, {}, {}}));
+    QCOMPARE(events, (EventList{{1, 2, 3}, {}, {}, {}}));
 }
 
 void tst_eventlist::readingStopsWhenTheSlotsAreFull_data()
@@ -186,9 +185,9 @@ void tst_eventlist::readingStopsWhenTheSlotsAreFull()
     QFETCH(std::uint32_t, read);
     const KeymapEvent event = {7, 1, 2};
     const KeymapEvent guard = {99, 99, 99};
-    Events events(slots + 1, guard);
+    EventList events(slots + 1, guard);
     readEventList(repeated("7,1,2,", triples), std::span(events).first(slots));
-    Events expected(read, event);
+    EventList expected(read, event);
     expected.resize(slots);
     expected.push_back(guard);
     QCOMPARE(events, expected);
@@ -196,46 +195,46 @@ void tst_eventlist::readingStopsWhenTheSlotsAreFull()
 
 void tst_eventlist::onlyUsedEventsAreWritten_data()
 {
-    QTest::addColumn<Events>("events");
+    QTest::addColumn<EventList>("events");
     QTest::addColumn<std::string>("text");
-    QTest::newRow("no slots") << Events{} << std::string();
-    QTest::newRow("empty") << Events{{}, {}} << std::string();
-    QTest::newRow("two") << Events{{56, 1, 3}, {56, 2, 0}, {}} << std::string("56,1,3,56,2,0,");
+    QTest::newRow("no slots") << EventList{} << std::string();
+    QTest::newRow("empty") << EventList{{}, {}} << std::string();
+    QTest::newRow("two") << EventList{{56, 1, 3}, {56, 2, 0}, {}} << std::string("56,1,3,56,2,0,");
     QTest::newRow("up to the first kind of 0")
-        << Events{{1, 1, 1}, {2, 0, 2}, {3, 1, 3}} << std::string("1,1,1,");
-    QTest::newRow("full") << Events{{1, 1, 1}, {2, 2, 2}} << std::string("1,1,1,2,2,2,");
+        << EventList{{1, 1, 1}, {2, 0, 2}, {3, 1, 3}} << std::string("1,1,1,");
+    QTest::newRow("full") << EventList{{1, 1, 1}, {2, 2, 2}} << std::string("1,1,1,2,2,2,");
 }
 
 void tst_eventlist::onlyUsedEventsAreWritten()
 {
-    QFETCH(Events, events);
+    QFETCH(EventList, events);
     QTEST(usedEventsText(events), "text");
 }
 
 void tst_eventlist::allEventsAreWrittenEmptyOnesIncluded()
 {
-    QCOMPARE(allEventsText(Events{{}, {}}), std::string("0,0,0,0,0,0,"));
-    QCOMPARE(allEventsText(Events{{}, {8, 1, 0}}), std::string("0,0,0,8,1,0,"));
-    QCOMPARE(allEventsText(Events{{8, 0, 5}, {}}), std::string("8,0,5,0,0,0,"));
+    QCOMPARE(allEventsText(EventList{{}, {}}), std::string("0,0,0,0,0,0,"));
+    QCOMPARE(allEventsText(EventList{{}, {8, 1, 0}}), std::string("0,0,0,8,1,0,"));
+    QCOMPARE(allEventsText(EventList{{8, 0, 5}, {}}), std::string("8,0,5,0,0,0,"));
 }
 
 void tst_eventlist::numbersAreWrittenSigned()
 {
-    const Events events = {{2147483647, 2147483648, 4294967295}};
+    const EventList events = {{2147483647, 2147483648, 4294967295}};
     QCOMPARE(usedEventsText(events), std::string("2147483647,-2147483648,-1,"));
 }
 
 void tst_eventlist::aFullListHasNoTerminatorAndIsReadBackWhole()
 {
-    const Events events = fullList();
+    const EventList events = fullList();
     const std::string text = usedEventsText(events);
     QCOMPARE(std::ranges::count(text, ','), 1500);
     QVERIFY(text.ends_with(",501,"));
 
-    Events again(500, {9, 9, 9});
+    EventList again(500, {9, 9, 9});
     readEventList(text, again);
     QCOMPARE(again, events);
 }
 
-QTEST_APPLESS_MAIN(tst_eventlist)
+KYR_PLAIN_TEST(tst_eventlist)
 #include "tst_eventlist.moc"

@@ -1,8 +1,7 @@
 #include "model/fixedtext.h"
 
+#include "support/suite.h"
 #include "support/testsettings.h"
-
-#include <QtTest/QTest>
 
 #include <algorithm>
 #include <array>
@@ -191,5 +190,5 @@ void tst_fixedtext::aHugeBrokenTextIsStoredAtOnce()
     QCOMPARE(stored(nonCharacters), kReplacement.repeated(66));
 }
 
-QTEST_APPLESS_MAIN(tst_fixedtext)
+KYR_PLAIN_TEST(tst_fixedtext)
 #include "tst_fixedtext.moc"

@@ -1,8 +1,7 @@
 #include "fakefilepanels.h"
 #include "randomrecord.h"
 #include "storefixture.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 #include <memory>
 
@@ -170,8 +169,7 @@ void tst_profilefiles::anExportTouchesNothingElse()
     fixture.store.WriteProfileToFile(9, fixture.path());
     QVERIFY(sameRecord(m_Config, *before));
     QCOMPARE(fixture.settings.bytes(), QByteArray("settings"));
-    QCOMPARE(entries(fixture),
-             (QStringList{QStringLiteral("KT7R4Setting.xml"), QStringLiteral("Profile.XML")}));
+    QCOMPARE(entries(fixture), (QStringList{kSettingsName, QStringLiteral("Profile.XML")}));
     QCOMPARE(pConfigFileName, fixture.settings.path());
     QVERIFY(fixture.log.lines.empty());
 }
@@ -290,5 +288,5 @@ void tst_profilefiles::anImportWritesNoFile()
     QCOMPARE(fixture.written(), bytes);
 }
 
-QTEST_APPLESS_MAIN(tst_profilefiles)
+KYR_PLAIN_TEST(tst_profilefiles)
 #include "tst_profilefiles.moc"

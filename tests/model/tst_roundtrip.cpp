@@ -1,7 +1,6 @@
 #include "randomrecord.h"
 #include "storefixture.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 #include <memory>
 
@@ -59,5 +58,5 @@ void tst_roundtrip::theFullestRecordIsReadBackAsItWas()
     QVERIFY(isReadBack());
 }
 
-QTEST_APPLESS_MAIN(tst_roundtrip)
+KYR_PLAIN_TEST(tst_roundtrip)
 #include "tst_roundtrip.moc"

@@ -1,6 +1,5 @@
 #include "model/settings.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 #include <algorithm>
 #include <cstring>
@@ -150,5 +149,5 @@ void tst_settings::aMacroSlotOutsideReadsAsAnEmptyMacro()
     m_Config = {};
 }
 
-QTEST_APPLESS_MAIN(tst_settings)
+KYR_PLAIN_TEST(tst_settings)
 #include "tst_settings.moc"

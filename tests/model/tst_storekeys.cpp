@@ -1,7 +1,6 @@
 #include "settingskeys.h"
 #include "storefixture.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 #include <memory>
 
@@ -423,5 +422,5 @@ void tst_storekeys::aProfileNumberOutsideShowsTheFirstProfile()
     QCOMPARE(CurrentProfile().DPI_VALUE, 3U);
 }
 
-QTEST_APPLESS_MAIN(tst_storekeys)
+KYR_PLAIN_TEST(tst_storekeys)
 #include "tst_storekeys.moc"

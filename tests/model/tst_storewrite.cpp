@@ -1,9 +1,9 @@
 #include "storefixture.h"
 #include "support/plistxml.h"
+#include "support/suite.h"
 #include "support/unprivileged.h"
 
 #include <QtCore/QDir>
-#include <QtTest/QTest>
 
 #include <sys/stat.h>
 
@@ -33,9 +33,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-const std::string kWriteFail = "write fail!";
-const QString kName = QStringLiteral("KT7R4Setting.xml");
 
 unsigned permissionsOf(const std::string &path)
 {
@@ -106,7 +103,7 @@ void tst_storewrite::loadingAGoodFileWritesNothing()
     const QByteArray bytes = plistOf(plistEntry("GAME_MODE", "<integer>1</integer>"));
     fixture.load(bytes);
     QCOMPARE(fixture.settings.bytes(), bytes);
-    QCOMPARE(entries(fixture), QStringList{kName});
+    QCOMPARE(entries(fixture), QStringList{kSettingsName});
 }
 
 void tst_storewrite::aNewFileIsReadableByTheDriverProcess()
@@ -152,7 +149,7 @@ void tst_storewrite::noTemporaryFileIsLeft()
 {
     StoreFixture fixture;
     fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), QStringList{kName});
+    QCOMPARE(entries(fixture), QStringList{kSettingsName});
 }
 
 void tst_storewrite::aWriteThatFailsIsLoggedAndChangesNothing_data()
@@ -194,7 +191,7 @@ void tst_storewrite::aReadOnlyFolderKeepsTheOldFile()
     setFolderMode(fixture, 0755);
     QCOMPARE(fixture.log.lines, std::vector{kWriteFail});
     QCOMPARE(fixture.settings.bytes(), QByteArray("old"));
-    QCOMPARE(entries(fixture), QStringList{kName});
+    QCOMPARE(entries(fixture), QStringList{kSettingsName});
 }
 
 void tst_storewrite::aWriteSucceedsAfterOneThatFailed()
@@ -209,5 +206,5 @@ void tst_storewrite::aWriteSucceedsAfterOneThatFailed()
     QVERIFY(QFile::exists(folder + QStringLiteral("/KT7R4Setting.xml")));
 }
 
-QTEST_APPLESS_MAIN(tst_storewrite)
+KYR_PLAIN_TEST(tst_storewrite)
 #include "tst_storewrite.moc"

@@ -1,9 +1,8 @@
 #include "storefixture.h"
 #include "support/filesizelimit.h"
 #include "support/plistxml.h"
+#include "support/suite.h"
 #include "support/unprivileged.h"
-
-#include <QtTest/QTest>
 
 #include <sys/stat.h>
 
@@ -32,8 +31,6 @@ private Q_SLOTS:
 
 namespace {
 
-const std::string kWriteFail = "write fail!";
-const QString kName = QStringLiteral("KT7R4Setting.xml");
 const QString kKept = QStringLiteral("KT7R4Setting.xml.unreadable");
 
 QByteArray bytesOf(const StoreFixture &fixture, const QString &name)
@@ -70,17 +67,17 @@ struct UnreadableFixture : StoreFixture
 void tst_unreadable::itIsKeptBeforeTheFirstWrite()
 {
     UnreadableFixture fixture;
-    QCOMPARE(entries(fixture), QStringList{kName}); // not yet: nothing is written at load
+    QCOMPARE(entries(fixture), QStringList{kSettingsName}); // not yet: nothing is written at load
     m_Config.POLLING_RATE = 2;
     fixture.store.WriteConfigFile();
     QVERIFY(fixture.saysKeptAs(kKept));
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
+    QCOMPARE(entries(fixture), (QStringList{kSettingsName, kKept}));
     QCOMPARE(bytesOf(fixture, kKept), QByteArray("junk"));
     QCOMPARE(writtenPollingRate(fixture), 2);
 
     m_Config.POLLING_RATE = 3;
     fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
+    QCOMPARE(entries(fixture), (QStringList{kSettingsName, kKept}));
     QCOMPARE(writtenPollingRate(fixture), 3);
 }
 
@@ -101,7 +98,7 @@ void tst_unreadable::aMissingFileLeavesNothingAside()
     StoreFixture fixture;
     fixture.store.LoadConfigFile();
     fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), QStringList{kName});
+    QCOMPARE(entries(fixture), QStringList{kSettingsName});
     QVERIFY(fixture.log.lines.empty());
 }
 
@@ -110,7 +107,7 @@ void tst_unreadable::aGoodFileIsNotKept()
     UnreadableFixture fixture;
     fixture.load(plistOf("")); // good again before anything was written
     fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), QStringList{kName});
+    QCOMPARE(entries(fixture), QStringList{kSettingsName});
     QVERIFY(fixture.log.lines.empty());
 }
 
@@ -122,7 +119,7 @@ void tst_unreadable::oneThatIsGoneSinceIsForgotten()
         m_Config.POLLING_RATE = rate;
         fixture.store.WriteConfigFile();
         QVERIFY(fixture.log.lines.empty());
-        QCOMPARE(entries(fixture), QStringList{kName});
+        QCOMPARE(entries(fixture), QStringList{kSettingsName});
         QCOMPARE(writtenPollingRate(fixture), rate);
     }
 }
@@ -135,7 +132,7 @@ void tst_unreadable::aGoodOneInItsPlaceIsKeptToo()
     fixture.store.WriteConfigFile();
     QVERIFY(fixture.saysKeptAs(kKept));
     fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
+    QCOMPARE(entries(fixture), (QStringList{kSettingsName, kKept}));
     QCOMPARE(bytesOf(fixture, kKept), good);
     QCOMPARE(fixture.log.lines.size(), std::size_t{1});
 }
@@ -174,11 +171,11 @@ void tst_unreadable::oneInAFolderThatCannotBeSearchedStaysThere()
              (std::vector{fixture.settings.path() + " cannot be read, starting with defaults",
                           kWriteFail}));
     QVERIFY(sameRecord(m_Config, *record));
-    QCOMPARE(entries(fixture), QStringList{kName});
+    QCOMPARE(entries(fixture), QStringList{kSettingsName});
     QCOMPARE(fixture.settings.bytes(), QByteArray("mine"));
 
     fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
+    QCOMPARE(entries(fixture), (QStringList{kSettingsName, kKept}));
     QCOMPARE(bytesOf(fixture, kKept), QByteArray("mine"));
 }
 
@@ -191,14 +188,14 @@ void tst_unreadable::oneThatIsKeptIsKeptOnceThoughTheWriteFails()
     }
     QCOMPARE(fixture.log.lines.size(), std::size_t{2});
     QCOMPARE(fixture.log.lines.back(), kWriteFail);
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
+    QCOMPARE(entries(fixture), (QStringList{kSettingsName, kKept}));
     QCOMPARE(fixture.settings.bytes(), QByteArray("junk"));
     QCOMPARE(bytesOf(fixture, kKept), QByteArray("junk"));
 
     fixture.log.lines.clear();
     fixture.store.WriteConfigFile();
     QVERIFY(fixture.log.lines.empty());
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
+    QCOMPARE(entries(fixture), (QStringList{kSettingsName, kKept}));
     QCOMPARE(bytesOf(fixture, kKept), QByteArray("junk"));
     QCOMPARE(writtenPollingRate(fixture), 1);
 }
@@ -221,7 +218,7 @@ void tst_unreadable::whatIsNoFileIsKeptToo()
         QCOMPARE(::mkfifo(path.c_str(), 0600), 0);
     fixture.store.LoadConfigFile();
     fixture.store.WriteConfigFile();
-    QCOMPARE(entries(fixture), (QStringList{kName, kKept}));
+    QCOMPARE(entries(fixture), (QStringList{kSettingsName, kKept}));
     QCOMPARE(std::filesystem::exists(path + ".unreadable/inner"), isFolder);
     QCOMPARE(writtenPollingRate(fixture), 1);
 }
@@ -237,5 +234,5 @@ void tst_unreadable::aLinkToNowhereIsKeptAsALink()
     QCOMPARE(writtenPollingRate(fixture), 1);
 }
 
-QTEST_APPLESS_MAIN(tst_unreadable)
+KYR_PLAIN_TEST(tst_unreadable)
 #include "tst_unreadable.moc"

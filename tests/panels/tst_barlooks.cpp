@@ -2,6 +2,7 @@
 #include "support/keyboard.h"
 #include "support/pictures.h"
 #include "support/skinpictures.h"
+#include "support/suite.h"
 
 /// How the bars and their handles are drawn.
 class tst_barlooks : public QObject
@@ -176,5 +177,5 @@ void tst_barlooks::theHandleChangesAsTheBarSetsOut()
     }
 }
 
-QTEST_MAIN(tst_barlooks)
+KYR_GUI_TEST(tst_barlooks)
 #include "tst_barlooks.moc"

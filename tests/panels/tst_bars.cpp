@@ -1,6 +1,7 @@
 #include "barsstage.h"
 #include "support/focus.h"
 #include "support/keyboard.h"
+#include "support/suite.h"
 
 /// The bars around the main window, opened and closed by their handles.
 class tst_bars : public QObject
@@ -315,5 +316,5 @@ void tst_bars::aBarThatTheDesktopAsksToCloseStays()
     QVERIFY(stage.program.window().isVisible());
 }
 
-QTEST_MAIN(tst_bars)
+KYR_GUI_TEST(tst_bars)
 #include "tst_bars.moc"

@@ -1,6 +1,5 @@
 #include "platform/action.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 #include <memory>
 
@@ -156,5 +155,5 @@ void tst_action::aDeferredCallOnADeletedTargetIsNotMade()
     QTRY_COMPARE(witness.taken, std::vector<int>{6});
 }
 
-QTEST_GUILESS_MAIN(tst_action)
+KYR_CORE_TEST(tst_action)
 #include "tst_action.moc"

@@ -1,8 +1,7 @@
 #include "platform/canvas.h"
 #include "platform/view.h"
 #include "support/pictures.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// Drawing in upward coordinates, at the scales of usual and of fine screens.
 class tst_canvas : public QObject
@@ -256,5 +255,5 @@ void tst_canvas::textIsWrappedAtWordsFromTheTopDownwards()
     QVERIFY(two.bottom() >= one.bottom() + 10 * scale); // not clipped below its rectangle
 }
 
-QTEST_MAIN(tst_canvas)
+KYR_GUI_TEST(tst_canvas)
 #include "tst_canvas.moc"

@@ -1,6 +1,5 @@
 #include "platform/desktop.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// The choice among the window systems that the desktop offers.
 class tst_desktop : public QObject
@@ -67,5 +66,5 @@ void tst_desktop::placedWindowsAreAskedForWhereNothingElseIsChosen()
     QTEST(qgetenv("QT_QPA_PLATFORM"), "platform");
 }
 
-QTEST_GUILESS_MAIN(tst_desktop)
+KYR_CORE_TEST(tst_desktop)
 #include "tst_desktop.moc"

@@ -1,9 +1,9 @@
 #include "platform/desktoppanels.h"
+#include "support/suite.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
@@ -591,5 +591,5 @@ void tst_desktoppanels::aPanelNeedsNoWindow()
     QVERIFY(stage.user.isDone());
 }
 
-QTEST_MAIN(tst_desktoppanels)
+KYR_GUI_TEST(tst_desktoppanels)
 #include "tst_desktoppanels.moc"

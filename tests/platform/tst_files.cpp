@@ -1,11 +1,11 @@
 #include "platform/files.h"
 
 #include "support/filesizelimit.h"
+#include "support/suite.h"
 #include "support/unprivileged.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QTest>
 
 #include <sys/stat.h>
 
@@ -21,7 +21,7 @@ mode_t permissionsOf(const std::string &path)
 
 } // namespace
 
-class TestFiles : public QObject
+class tst_files : public QObject
 {
     Q_OBJECT
 
@@ -73,13 +73,13 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void TestFiles::init()
+void tst_files::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
 }
 
-void TestFiles::whatIsWrittenIsReadBack()
+void tst_files::whatIsWrittenIsReadBack()
 {
     const std::string bytes("a\0b\n\xFF", 5);
     QVERIFY(writeFileAtomically(path("file"), bytes));
@@ -89,7 +89,7 @@ void TestFiles::whatIsWrittenIsReadBack()
     QCOMPARE(names(), QStringList{QStringLiteral("file")});
 }
 
-void TestFiles::aNewFileIsForEveryoneToRead()
+void tst_files::aNewFileIsForEveryoneToRead()
 {
     const mode_t mask = ::umask(077);
     const bool written = writeFileAtomically(path("file"), "new");
@@ -98,7 +98,7 @@ void TestFiles::aNewFileIsForEveryoneToRead()
     QCOMPARE(permissionsOf(path("file")), mode_t{0644});
 }
 
-void TestFiles::anOldFileKeepsItsPermissions()
+void tst_files::anOldFileKeepsItsPermissions()
 {
     QVERIFY(writeFileAtomically(path("file"), "old"));
     QCOMPARE(::chmod(path("file").c_str(), 0640), 0);
@@ -107,7 +107,7 @@ void TestFiles::anOldFileKeepsItsPermissions()
     QCOMPARE(contents(path("file")), std::string("new"));
 }
 
-void TestFiles::theOldFileIsReplacedNotOverwritten()
+void tst_files::theOldFileIsReplacedNotOverwritten()
 {
     QVERIFY(writeFileAtomically(path("file"), "old"));
     // Who has the old file open goes on reading the old bytes.
@@ -118,7 +118,7 @@ void TestFiles::theOldFileIsReplacedNotOverwritten()
     QCOMPARE(contents(path("file")), std::string("new bytes"));
 }
 
-void TestFiles::writingOverAFolderLeavesNothingBehind()
+void tst_files::writingOverAFolderLeavesNothingBehind()
 {
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
     QVERIFY(!writeFileAtomically(path("folder"), "bytes"));
@@ -126,13 +126,13 @@ void TestFiles::writingOverAFolderLeavesNothingBehind()
     QVERIFY(QDir(QString::fromStdString(path("folder"))).isEmpty());
 }
 
-void TestFiles::writingIntoAMissingFolderFails()
+void tst_files::writingIntoAMissingFolderFails()
 {
     QVERIFY(!writeFileAtomically(path("missing/file"), "bytes"));
     QCOMPARE(names(), QStringList());
 }
 
-void TestFiles::aWriteThatRunsOutOfRoomKeepsTheOldFile()
+void tst_files::aWriteThatRunsOutOfRoomKeepsTheOldFile()
 {
     QVERIFY(writeFileAtomically(path("file"), "old"));
     bool written = true;
@@ -145,46 +145,46 @@ void TestFiles::aWriteThatRunsOutOfRoomKeepsTheOldFile()
     QCOMPARE(names(), QStringList{QStringLiteral("file")});
 }
 
-void TestFiles::aMissingFileIsMissing()
+void tst_files::aMissingFileIsMissing()
 {
     std::string bytes;
     QCOMPARE(readFile(path("file"), kMost, bytes), ReadStatus::Missing);
 }
 
-void TestFiles::aFileBelowAFileIsMissing()
+void tst_files::aFileBelowAFileIsMissing()
 {
     QVERIFY(writeFileAtomically(path("file"), "bytes"));
     std::string bytes;
     QCOMPARE(readFile(path("file/below"), kMost, bytes), ReadStatus::Missing);
 }
 
-void TestFiles::aFolderIsUnreadable()
+void tst_files::aFolderIsUnreadable()
 {
     std::string bytes;
     QCOMPARE(readFile(m_folder->path().toStdString(), kMost, bytes), ReadStatus::Unreadable);
 }
 
-void TestFiles::aLinkToNowhereIsUnreadable()
+void tst_files::aLinkToNowhereIsUnreadable()
 {
     QCOMPARE(::symlink("nowhere", path("link").c_str()), 0);
     std::string bytes;
     QCOMPARE(readFile(path("link"), kMost, bytes), ReadStatus::Unreadable);
 }
 
-void TestFiles::aNamedPipeIsUnreadableAtOnce()
+void tst_files::aNamedPipeIsUnreadableAtOnce()
 {
     QCOMPARE(::mkfifo(path("pipe").c_str(), 0600), 0);
     std::string bytes;
     QCOMPARE(readFile(path("pipe"), kMost, bytes), ReadStatus::Unreadable);
 }
 
-void TestFiles::aDeviceIsUnreadable()
+void tst_files::aDeviceIsUnreadable()
 {
     std::string bytes;
     QCOMPARE(readFile("/dev/zero", kMost, bytes), ReadStatus::Unreadable);
 }
 
-void TestFiles::aFileOfTheMostBytesIsReadAndOneMoreIsUnreadable()
+void tst_files::aFileOfTheMostBytesIsReadAndOneMoreIsUnreadable()
 {
     std::string bytes;
     QVERIFY(writeFileAtomically(path("file"), std::string(kMost, 'x')));
@@ -194,14 +194,14 @@ void TestFiles::aFileOfTheMostBytesIsReadAndOneMoreIsUnreadable()
     QCOMPARE(readFile(path("file"), kMost, bytes), ReadStatus::Unreadable);
 }
 
-void TestFiles::readingDropsWhatTheBufferHeld()
+void tst_files::readingDropsWhatTheBufferHeld()
 {
     std::string bytes = "old";
     QCOMPARE(readFile(path("file"), kMost, bytes), ReadStatus::Missing);
     QCOMPARE(bytes, std::string());
 }
 
-void TestFiles::whatIsThereIsPresent()
+void tst_files::whatIsThereIsPresent()
 {
     QVERIFY(!isPresent(path("file")));
     QVERIFY(writeFileAtomically(path("file"), "bytes"));
@@ -213,7 +213,7 @@ void TestFiles::whatIsThereIsPresent()
     QVERIFY(isPresent(path("link")));
 }
 
-void TestFiles::whatCannotBeToldIsPresent()
+void tst_files::whatCannotBeToldIsPresent()
 {
     bool present = false;
     setFolderMode(0);
@@ -225,7 +225,7 @@ void TestFiles::whatCannotBeToldIsPresent()
     QVERIFY(present);
 }
 
-void TestFiles::aFileIsKeptUnderASecondName()
+void tst_files::aFileIsKeptUnderASecondName()
 {
     QVERIFY(writeFileAtomically(path("file"), "old"));
     QCOMPARE(keepBeside(path("file"), ".old").value_or(""), path("file.old"));
@@ -237,7 +237,7 @@ void TestFiles::aFileIsKeptUnderASecondName()
     QCOMPARE(contents(path("file.old")), std::string("old"));
 }
 
-void TestFiles::aFileIsKeptUnderTheFirstFreeName()
+void tst_files::aFileIsKeptUnderTheFirstFreeName()
 {
     const char *const expected[] = {"file.old", "file.old.2", "file.old.4"};
     QCOMPARE(::symlink("nowhere", path("file.old.3").c_str()), 0); // taken by what leads nowhere
@@ -250,7 +250,7 @@ void TestFiles::aFileIsKeptUnderTheFirstFreeName()
     QCOMPARE(names().size(), 5);
 }
 
-void TestFiles::aFolderIsKeptByMovingIt()
+void tst_files::aFolderIsKeptByMovingIt()
 {
     QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("folder/inner")));
     QCOMPARE(keepBeside(path("folder"), ".old").value_or(""), path("folder.old"));
@@ -258,7 +258,7 @@ void TestFiles::aFolderIsKeptByMovingIt()
     QVERIFY(isPresent(path("folder.old/inner")));
 }
 
-void TestFiles::whatCannotBeKeptStaysAsItIs()
+void tst_files::whatCannotBeKeptStaysAsItIs()
 {
     QVERIFY(!keepBeside(path("file"), ".old")); // nothing there
     QCOMPARE(names(), QStringList());
@@ -276,5 +276,5 @@ void TestFiles::whatCannotBeKeptStaysAsItIs()
     QCOMPARE(contents(path("file")), std::string("bytes"));
 }
 
-QTEST_GUILESS_MAIN(TestFiles)
+KYR_CORE_TEST(tst_files)
 #include "tst_files.moc"

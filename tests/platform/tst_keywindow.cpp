@@ -1,6 +1,6 @@
 #include "platform/keywindow.h"
+#include "support/suite.h"
 
-#include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
@@ -166,5 +166,5 @@ void tst_keywindow::aWindowOrderedFrontIsShownWithoutAskingForTheKeyboard()
     QVERIFY(window.testAttribute(Qt::WA_ShowWithoutActivating));
 }
 
-QTEST_MAIN(tst_keywindow)
+KYR_GUI_TEST(tst_keywindow)
 #include "tst_keywindow.moc"

@@ -1,5 +1,6 @@
 #include "platform/modalrun.h"
 #include "support/pointer.h"
+#include "support/suite.h"
 
 #include <QtCore/QThread>
 #include <QtWidgets/QPushButton>
@@ -317,5 +318,5 @@ void tst_modalrun::stopWithoutARunDoesNothing()
     stage.run->stop();
 }
 
-QTEST_MAIN(tst_modalrun)
+KYR_GUI_TEST(tst_modalrun)
 #include "tst_modalrun.moc"

@@ -1,10 +1,10 @@
 #include "platform/notificationcenter_dbus.h"
 #include "support/logcapture.h"
 #include "support/privatebus.h"
+#include "support/suite.h"
 
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusVariant>
-#include <QtTest/QTest>
 
 #include <limits>
 
@@ -21,10 +21,12 @@ QDBusMessage signalMessage()
                                       QStringLiteral("Notification"));
 }
 
+} // namespace
+
 /// A program's end of the bus, with the notifications that it was told.
-struct End
+struct NotificationEnd
 {
-    End(const PrivateBus &bus, const QString &name)
+    NotificationEnd(const PrivateBus &bus, const QString &name)
         : connection(bus.connection(name)), center(connection)
     {
     }
@@ -41,9 +43,7 @@ struct End
     QList<std::int32_t> received;
 };
 
-} // namespace
-
-class TestNotificationCenter : public QObject
+class tst_notificationcenter : public QObject
 {
     Q_OBJECT
 
@@ -72,7 +72,7 @@ private Q_SLOTS:
 
 private:
     /// Posted last: when it is here, so is all that was posted before it by `from`.
-    void waitForAll(End &from)
+    void waitForAll(NotificationEnd &from)
     {
         from.center.post(kName, kObject, {{kNumber, kLast}});
         QTRY_VERIFY(m_receiver->received.contains(kLast));
@@ -81,26 +81,26 @@ private:
 
     static constexpr std::int32_t kLast = 999;
     std::unique_ptr<PrivateBus> m_bus;
-    std::unique_ptr<End> m_sender;
-    std::unique_ptr<End> m_receiver;
+    std::unique_ptr<NotificationEnd> m_sender;
+    std::unique_ptr<NotificationEnd> m_receiver;
 };
 
-void TestNotificationCenter::initTestCase()
+void tst_notificationcenter::initTestCase()
 {
     m_bus = std::make_unique<PrivateBus>();
 }
 
-void TestNotificationCenter::init()
+void tst_notificationcenter::init()
 {
-    m_sender = std::make_unique<End>(*m_bus, QStringLiteral("sender"));
-    m_receiver = std::make_unique<End>(*m_bus, QStringLiteral("receiver"));
+    m_sender = std::make_unique<NotificationEnd>(*m_bus, QStringLiteral("sender"));
+    m_receiver = std::make_unique<NotificationEnd>(*m_bus, QStringLiteral("receiver"));
     QVERIFY(m_sender->connection.isConnected() && m_receiver->connection.isConnected());
     m_receiver->observe(kName, kObject);
     // A round trip: the bus knows the observer.
     QVERIFY(m_receiver->connection.registerService(QStringLiteral("test.Receiver")));
 }
 
-void TestNotificationCenter::cleanup()
+void tst_notificationcenter::cleanup()
 {
     m_sender.reset();
     m_receiver.reset();
@@ -108,7 +108,7 @@ void TestNotificationCenter::cleanup()
     QDBusConnection::disconnectFromBus(QStringLiteral("receiver"));
 }
 
-void TestNotificationCenter::integersOfAnyTypeAreTaken_data()
+void tst_notificationcenter::integersOfAnyTypeAreTaken_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::newRow("char") << QVariant::fromValue(char{7});
@@ -124,14 +124,14 @@ void TestNotificationCenter::integersOfAnyTypeAreTaken_data()
     QTest::newRow("ulonglong") << QVariant::fromValue(7ULL);
 }
 
-void TestNotificationCenter::integersOfAnyTypeAreTaken()
+void tst_notificationcenter::integersOfAnyTypeAreTaken()
 {
     QFETCH(const QVariant, value);
     QCOMPARE(integerValue({{kNumber, value}}, kNumber).value_or(-1), 7);
     QVERIFY(!integerValue({{kName, value}}, kNumber));
 }
 
-void TestNotificationCenter::anIntegerIsCutToItsLowHalf()
+void tst_notificationcenter::anIntegerIsCutToItsLowHalf()
 {
     const auto cut = [](const QVariant &value) {
         return integerValue({{kNumber, value}}, kNumber).value_or(0);
@@ -142,7 +142,7 @@ void TestNotificationCenter::anIntegerIsCutToItsLowHalf()
     QCOMPARE(cut(std::numeric_limits<qulonglong>::max()), -1);
 }
 
-void TestNotificationCenter::whatIsNoIntegerIsNotTaken_data()
+void tst_notificationcenter::whatIsNoIntegerIsNotTaken_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::newRow("nothing") << QVariant();
@@ -155,19 +155,19 @@ void TestNotificationCenter::whatIsNoIntegerIsNotTaken_data()
     QTest::newRow("variant") << QVariant::fromValue(QDBusVariant(7));
 }
 
-void TestNotificationCenter::whatIsNoIntegerIsNotTaken()
+void tst_notificationcenter::whatIsNoIntegerIsNotTaken()
 {
     QFETCH(const QVariant, value);
     QVERIFY(!integerValue({{kNumber, value}}, kNumber));
 }
 
-void TestNotificationCenter::aNotificationReachesAnotherProgram()
+void tst_notificationcenter::aNotificationReachesAnotherProgram()
 {
     m_sender->center.post(kName, kObject, {{kNumber, 7}});
     QTRY_COMPARE(m_receiver->received, QList<std::int32_t>{7});
 }
 
-void TestNotificationCenter::aNotificationReachesEveryObserver()
+void tst_notificationcenter::aNotificationReachesEveryObserver()
 {
     m_receiver->observe(kName, kObject);
     m_sender->observe(kName, kObject);
@@ -176,13 +176,13 @@ void TestNotificationCenter::aNotificationReachesEveryObserver()
     QTRY_COMPARE(m_sender->received, QList<std::int32_t>{7});
 }
 
-void TestNotificationCenter::aProgramHearsItself()
+void tst_notificationcenter::aProgramHearsItself()
 {
     m_receiver->center.post(kName, kObject, {{kNumber, 7}});
     QTRY_COMPARE(m_receiver->received, QList<std::int32_t>{7});
 }
 
-void TestNotificationCenter::nameAndObjectMustBothBeTheSame()
+void tst_notificationcenter::nameAndObjectMustBothBeTheSame()
 {
     m_sender->center.post(kName, QStringLiteral("other"), {{kNumber, 1}});
     m_sender->center.post(QStringLiteral("other"), kObject, {{kNumber, 2}});
@@ -193,7 +193,7 @@ void TestNotificationCenter::nameAndObjectMustBothBeTheSame()
     QCOMPARE(m_receiver->received, QList<std::int32_t>());
 }
 
-void TestNotificationCenter::aMessageOfAnotherShapeIsNotReceived()
+void tst_notificationcenter::aMessageOfAnotherShapeIsNotReceived()
 {
     const QVariantMap userInfo{{kNumber, 1}};
     const QList<QVariantList> shapes = {{},
@@ -210,7 +210,7 @@ void TestNotificationCenter::aMessageOfAnotherShapeIsNotReceived()
     QCOMPARE(m_receiver->received, QList<std::int32_t>());
 }
 
-void TestNotificationCenter::everyIntegerTypeOfTheBusArrives_data()
+void tst_notificationcenter::everyIntegerTypeOfTheBusArrives_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::newRow("y") << QVariant::fromValue(uchar{7});
@@ -222,14 +222,14 @@ void TestNotificationCenter::everyIntegerTypeOfTheBusArrives_data()
     QTest::newRow("t") << QVariant::fromValue(7ULL);
 }
 
-void TestNotificationCenter::everyIntegerTypeOfTheBusArrives()
+void tst_notificationcenter::everyIntegerTypeOfTheBusArrives()
 {
     QFETCH(const QVariant, value);
     m_sender->center.post(kName, kObject, {{kNumber, value}});
     QTRY_COMPARE(m_receiver->received, QList<std::int32_t>{7});
 }
 
-void TestNotificationCenter::aValueIsSentAsA32BitInteger()
+void tst_notificationcenter::aValueIsSentAsA32BitInteger()
 {
     int type = QMetaType::UnknownType;
     m_receiver->center.addObserver(kName, kObject, [&type](const QVariantMap &userInfo) {
@@ -239,7 +239,7 @@ void TestNotificationCenter::aValueIsSentAsA32BitInteger()
     QTRY_COMPARE(type, static_cast<int>(QMetaType::Int));
 }
 
-void TestNotificationCenter::notificationsArriveInOrder()
+void tst_notificationcenter::notificationsArriveInOrder()
 {
     QList<std::int32_t> posted;
     for (std::int32_t number = 0; number < 200; ++number) {
@@ -250,7 +250,7 @@ void TestNotificationCenter::notificationsArriveInOrder()
     QCOMPARE(m_receiver->received, posted);
 }
 
-void TestNotificationCenter::aHandlerMayPostAndObserve()
+void tst_notificationcenter::aHandlerMayPostAndObserve()
 {
     const QString answer = QStringLiteral("answer");
     m_sender->observe(kName, answer);
@@ -263,7 +263,7 @@ void TestNotificationCenter::aHandlerMayPostAndObserve()
     QTRY_COMPARE(m_receiver->received, (QList<std::int32_t>{7, 8}));
 }
 
-void TestNotificationCenter::withoutABusPostsGoNowhere()
+void tst_notificationcenter::withoutABusPostsGoNowhere()
 {
     const LogCapture log;
     DBusNotificationCenter center(QDBusConnection(QStringLiteral("no such connection")));
@@ -274,5 +274,5 @@ void TestNotificationCenter::withoutABusPostsGoNowhere()
     QCOMPARE(m_receiver->received, QList<std::int32_t>());
 }
 
-QTEST_GUILESS_MAIN(TestNotificationCenter)
+KYR_CORE_TEST(tst_notificationcenter)
 #include "tst_notificationcenter.moc"

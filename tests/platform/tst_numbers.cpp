@@ -1,8 +1,7 @@
 #include "platform/numbers.h"
+#include "support/suite.h"
 
-#include <QtTest/QTest>
-
-class TestNumbers : public QObject
+class tst_numbers : public QObject
 {
     Q_OBJECT
 
@@ -12,7 +11,7 @@ private Q_SLOTS:
     void aNumberEndsWithItsView();
 };
 
-void TestNumbers::digitsAreReadUpToTheFirstOther_data()
+void tst_numbers::digitsAreReadUpToTheFirstOther_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<int>("number");
@@ -37,19 +36,19 @@ void TestNumbers::digitsAreReadUpToTheFirstOther_data()
     QTest::newRow("endless") << QByteArray(1000, '9') << 2147483647 << 2147483647;
 }
 
-void TestNumbers::digitsAreReadUpToTheFirstOther()
+void tst_numbers::digitsAreReadUpToTheFirstOther()
 {
     QFETCH(const QByteArray, text);
     QTEST(leadingNumber(text.toStdString()), "number");
     QTEST(leadingInteger(text.toStdString()), "integer");
 }
 
-void TestNumbers::aNumberEndsWithItsView()
+void tst_numbers::aNumberEndsWithItsView()
 {
     const std::string_view text = "123456";
     QCOMPARE(leadingNumber(text.substr(0, 3)), 123);
     QCOMPARE(leadingInteger(text.substr(1, 2)), 23);
 }
 
-QTEST_GUILESS_MAIN(TestNumbers)
+KYR_CORE_TEST(tst_numbers)
 #include "tst_numbers.moc"

@@ -1,11 +1,11 @@
 #include "platform/opening.h"
 #include "support/logcapture.h"
+#include "support/suite.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
-#include <QtTest/QTest>
 
 /// Handing files and addresses to the desktop.
 class tst_opening : public QObject
@@ -130,5 +130,5 @@ void tst_opening::anAddressThatNothingOpensIsOnlyLogged()
     QCOMPARE(log.lines.size(), std::size_t{3});
 }
 
-QTEST_MAIN(tst_opening)
+KYR_GUI_TEST(tst_opening)
 #include "tst_opening.moc"

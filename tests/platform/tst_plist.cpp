@@ -1,8 +1,7 @@
 #include "platform/plist.h"
 
 #include "platform/plistbounds.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 #include <plist/plist.h>
 
@@ -94,7 +93,7 @@ const std::string kKeyObject = "Qk"; // the text "k"
 
 } // namespace
 
-class TestPlist : public QObject
+class tst_plist : public QObject
 {
     Q_OBJECT
 
@@ -117,7 +116,7 @@ private Q_SLOTS:
     void changedBytesNeverCrash();
 };
 
-void TestPlist::whatIsWrittenIsReadBack_data()
+void tst_plist::whatIsWrittenIsReadBack_data()
 {
     const std::string xml = sample().toXml();
     QTest::addColumn<std::string>("bytes");
@@ -125,7 +124,7 @@ void TestPlist::whatIsWrittenIsReadBack_data()
     QTest::newRow("binary") << toBinary(xml);
 }
 
-void TestPlist::whatIsWrittenIsReadBack()
+void tst_plist::whatIsWrittenIsReadBack()
 {
     QFETCH(const std::string, bytes);
     const auto document = Document::parse(bytes);
@@ -138,7 +137,7 @@ void TestPlist::whatIsWrittenIsReadBack()
     QCOMPARE(root.dictionary("inner").integer("deep").value_or(0), std::int64_t{7});
 }
 
-void TestPlist::aValueOfAnotherTypeIsNotFound()
+void tst_plist::aValueOfAnotherTypeIsNotFound()
 {
     const Document document = sample();
     QVERIFY(!document.root().integer("text"));
@@ -156,7 +155,7 @@ void TestPlist::aValueOfAnotherTypeIsNotFound()
     QVERIFY(!others->root().dictionary("a").integer("1"));
 }
 
-void TestPlist::aMissingDictionaryReadsAsEmptyAndTakesNothing()
+void tst_plist::aMissingDictionaryReadsAsEmptyAndTakesNothing()
 {
     Dictionary missing;
     missing.setInteger("key", 1);
@@ -167,7 +166,7 @@ void TestPlist::aMissingDictionaryReadsAsEmptyAndTakesNothing()
     QVERIFY(!missing.dictionary("inner").integer("deep"));
 }
 
-void TestPlist::integersBeyond32BitsAreRead()
+void tst_plist::integersBeyond32BitsAreRead()
 {
     const auto document =
         Document::parse(xmlWith("<dict><key>large</key><integer>4294967298</integer>"
@@ -177,7 +176,7 @@ void TestPlist::integersBeyond32BitsAreRead()
     QCOMPARE(document->root().integer("small").value_or(0), std::int64_t{-4294967298});
 }
 
-void TestPlist::aListCutShortIsNeverRead_data()
+void tst_plist::aListCutShortIsNeverRead_data()
 {
     const std::string xml = sample().toXml();
     const std::string binary = toBinary(xml);
@@ -188,7 +187,7 @@ void TestPlist::aListCutShortIsNeverRead_data()
     QTest::newRow("binary") << binary << binary.size();
 }
 
-void TestPlist::aListCutShortIsNeverRead()
+void tst_plist::aListCutShortIsNeverRead()
 {
     QFETCH(const std::string, bytes);
     QFETCH(const std::size_t, needed);
@@ -200,7 +199,7 @@ void TestPlist::aListCutShortIsNeverRead()
     }
 }
 
-void TestPlist::whatIsNoListIsRefused_data()
+void tst_plist::whatIsNoListIsRefused_data()
 {
     QTest::addColumn<std::string>("bytes");
     QTest::newRow("empty") << std::string();
@@ -215,13 +214,13 @@ void TestPlist::whatIsNoListIsRefused_data()
     QTest::newRow("binary magic and zeros") << "bplist00" + std::string(32, '\0');
 }
 
-void TestPlist::whatIsNoListIsRefused()
+void tst_plist::whatIsNoListIsRefused()
 {
     QFETCH(const std::string, bytes);
     QVERIFY(!Document::parse(bytes));
 }
 
-void TestPlist::asManyContainersAsAllowedAreRead()
+void tst_plist::asManyContainersAsAllowedAreRead()
 {
     const std::string inner = repeated("<dict/>", plist::kMostContainers - 2);
     const std::string xml = xmlWith("<dict><key>a</key><array>" + inner + "</array></dict>");
@@ -229,7 +228,7 @@ void TestPlist::asManyContainersAsAllowedAreRead()
     QVERIFY(Document::parse(toBinary(xml)));
 }
 
-void TestPlist::oneContainerTooManyIsRefused()
+void tst_plist::oneContainerTooManyIsRefused()
 {
     const std::string inner = repeated("<dict/>", plist::kMostContainers - 1);
     const std::string xml = xmlWith("<dict><key>a</key><array>" + inner + "</array></dict>");
@@ -237,7 +236,7 @@ void TestPlist::oneContainerTooManyIsRefused()
     QVERIFY(!Document::parse(toBinary(xml)));
 }
 
-void TestPlist::deepNestingIsRefused_data()
+void tst_plist::deepNestingIsRefused_data()
 {
     constexpr std::size_t levels = 200'000;
     QTest::addColumn<std::string>("bytes");
@@ -254,13 +253,13 @@ void TestPlist::deepNestingIsRefused_data()
     QTest::newRow("binary") << binaryOf(chain);
 }
 
-void TestPlist::deepNestingIsRefused()
+void tst_plist::deepNestingIsRefused()
 {
     QFETCH(const std::string, bytes);
     QVERIFY(!Document::parse(bytes));
 }
 
-void TestPlist::hostileBinaryListsAreRefused_data()
+void tst_plist::hostileBinaryListsAreRefused_data()
 {
     QTest::addColumn<std::string>("bytes");
     QTest::newRow("inside itself") << binaryOf({entry(1, 0), kKeyObject});
@@ -287,13 +286,13 @@ void TestPlist::hostileBinaryListsAreRefused_data()
     QTest::newRow("a long text many times") << binaryOf({entry(1, 2), kKeyObject, many, text});
 }
 
-void TestPlist::hostileBinaryListsAreRefused()
+void tst_plist::hostileBinaryListsAreRefused()
 {
     QFETCH(const std::string, bytes);
     QVERIFY(!Document::parse(bytes));
 }
 
-void TestPlist::changedBytesNeverCrash()
+void tst_plist::changedBytesNeverCrash()
 {
     const std::string xml = sample().toXml();
     int read = 0;
@@ -316,5 +315,5 @@ void TestPlist::changedBytesNeverCrash()
     QVERIFY(read > 0);
 }
 
-QTEST_GUILESS_MAIN(TestPlist)
+KYR_CORE_TEST(tst_plist)
 #include "tst_plist.moc"

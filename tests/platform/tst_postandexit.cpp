@@ -1,10 +1,9 @@
 #include "platform/notificationcenter_dbus.h"
 #include "support/privatebus.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// A program may post and end at once, as the utility does when it is closed.
-class TestPostAndExit : public QObject
+class tst_postandexit : public QObject
 {
     Q_OBJECT
 
@@ -12,7 +11,7 @@ private Q_SLOTS:
     void whatIsPostedLeavesAProgramThatEndsAtOnce();
 };
 
-void TestPostAndExit::whatIsPostedLeavesAProgramThatEndsAtOnce()
+void tst_postandexit::whatIsPostedLeavesAProgramThatEndsAtOnce()
 {
     constexpr int runs = 50;
     const PrivateBus bus;
@@ -39,5 +38,5 @@ void TestPostAndExit::whatIsPostedLeavesAProgramThatEndsAtOnce()
     QCOMPARE(received, posted);
 }
 
-QTEST_GUILESS_MAIN(TestPostAndExit)
+KYR_CORE_TEST(tst_postandexit)
 #include "tst_postandexit.moc"

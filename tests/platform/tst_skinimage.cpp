@@ -1,7 +1,6 @@
 #include "support/logcapture.h"
 #include "support/pictures.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// Pictures of the skin.
 class tst_skinimage : public QObject
@@ -78,5 +77,5 @@ void tst_skinimage::everyPictureHasItsSize()
     QTEST(SkinImage::named(QTest::currentDataTag()).size(), "size");
 }
 
-QTEST_MAIN(tst_skinimage)
+KYR_GUI_TEST(tst_skinimage)
 #include "tst_skinimage.moc"

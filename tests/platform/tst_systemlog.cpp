@@ -1,9 +1,9 @@
 #include "platform/systemlog.h"
 #include "support/logcapture.h"
+#include "support/suite.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryFile>
-#include <QtTest/QTest>
 
 #include <unistd.h>
 
@@ -27,7 +27,7 @@ QByteArray standardErrorOf(const std::function<void()> &write)
 
 } // namespace
 
-class TestSystemLog : public QObject
+class tst_systemlog : public QObject
 {
     Q_OBJECT
 
@@ -40,7 +40,7 @@ private Q_SLOTS:
     void aNamedProgramSaysItsNameFirst();
 };
 
-void TestSystemLog::aLineIsFormattedAsPrintfDoes()
+void tst_systemlog::aLineIsFormattedAsPrintfDoes()
 {
     const LogCapture log;
     systemLog("changed:%x %d %s %%", 0x4010U, -3, "text");
@@ -48,7 +48,7 @@ void TestSystemLog::aLineIsFormattedAsPrintfDoes()
     QCOMPARE(log.lines, (std::vector<std::string>{"changed:4010 -3 text %", "plain"}));
 }
 
-void TestSystemLog::aLongLineIsKeptWhole()
+void tst_systemlog::aLongLineIsKeptWhole()
 {
     const LogCapture log;
     const std::string text(100'000, 'x');
@@ -56,19 +56,19 @@ void TestSystemLog::aLongLineIsKeptWhole()
     QCOMPARE(log.lines.front(), '<' + text + '>');
 }
 
-void TestSystemLog::perCentSignsInArgumentsAreKept()
+void tst_systemlog::perCentSignsInArgumentsAreKept()
 {
     const QByteArray written = standardErrorOf([] { systemLog("%s", "100%s%n"); });
     QCOMPARE(written, QByteArray("100%s%n\n"));
 }
 
-void TestSystemLog::aLineGoesToStandardErrorAtOnce()
+void tst_systemlog::aLineGoesToStandardErrorAtOnce()
 {
     const QByteArray written = standardErrorOf([] { systemLog("line %d", 1); });
     QCOMPARE(written, QByteArray("line 1\n"));
 }
 
-void TestSystemLog::aSinkTakesTheLinesUntilItIsTakenAway()
+void tst_systemlog::aSinkTakesTheLinesUntilItIsTakenAway()
 {
     const QByteArray written = standardErrorOf([] {
         {
@@ -81,7 +81,7 @@ void TestSystemLog::aSinkTakesTheLinesUntilItIsTakenAway()
     QCOMPARE(written, QByteArray("not taken\n"));
 }
 
-void TestSystemLog::aNamedProgramSaysItsNameFirst()
+void tst_systemlog::aNamedProgramSaysItsNameFirst()
 {
     // The name stays for the rest of the process: this function is the last one.
     setSystemLogName("program");
@@ -92,5 +92,5 @@ void TestSystemLog::aNamedProgramSaysItsNameFirst()
     QVERIFY(log.contains("ready"));
 }
 
-QTEST_GUILESS_MAIN(TestSystemLog)
+KYR_CORE_TEST(tst_systemlog)
 #include "tst_systemlog.moc"

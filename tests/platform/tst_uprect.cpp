@@ -1,7 +1,7 @@
 #include "platform/view.h"
+#include "support/suite.h"
 
 #include <QtGui/QScreen>
-#include <QtTest/QTest>
 
 /// Upward geometry and the views that are placed by it.
 class tst_uprect : public QObject
@@ -112,5 +112,5 @@ void tst_uprect::aPointOfAViewIsFoundOnTheScreen()
     QVERIFY(onScreen(window, {0, 0}) == (UpPoint{100, 50}));
 }
 
-QTEST_MAIN(tst_uprect)
+KYR_GUI_TEST(tst_uprect)
 #include "tst_uprect.moc"

@@ -1,6 +1,5 @@
 #include "platform/view.h"
-
-#include <QtTest/QTest>
+#include "support/suite.h"
 
 /// Views in their places.
 class tst_view : public QObject
@@ -38,5 +37,5 @@ void tst_view::aChildWindowStaysWhereItIs()
     QCOMPARE(window.geometry(), QRect(70, 80, 50, 40));
 }
 
-QTEST_MAIN(tst_view)
+KYR_GUI_TEST(tst_view)
 #include "tst_view.moc"

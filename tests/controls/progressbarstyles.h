@@ -1,0 +1,5 @@
+#pragma once
+
+/// What setDirStyle() takes.
+constexpr int kHorizontal = 1;
+constexpr int kVertical = 0;
