@@ -20,8 +20,23 @@ class Drag(unittest.TestCase):
         self.left, self.top, _, _ = self.stage.frame(TITLE)
 
     def drag_row(self, row, target_x):
-        self.stage.drag((self.left + 50, self.top + row * ROW + ROW // 2),
-                        (self.left + target_x, self.top + 150))
+        """Drags a macro row onto a button as a person does, who sees its picture come along."""
+        start = self.left + 50, self.top + row * ROW + ROW // 2
+        end = self.left + target_x, self.top + 150
+        windows = self.windows()
+        self.stage.move_to(*start)
+        self.stage.output("xdotool", "mousedown", "1")
+        self.stage.move_to(start[0], start[1] + 2 * ROW)
+        picture = wait_for(lambda: self.windows() - windows, "the row's picture").pop()
+        self.stage.move_to(*end)
+        arrived = end[0] - (start[0] - self.left), end[1] - ROW // 2
+        wait_for(lambda: self.stage.frame_of(picture)[:2] == arrived, "the picture on the button")
+        self.stage.output("xdotool", "mouseup", "1")
+        wait_for(lambda: self.windows() == windows, "the end of the drag")
+
+    def windows(self):
+        return set(self.stage.output("xdotool", "search", "--onlyvisible", "--class",
+                                     "dragstage").split())
 
     def test_the_third_macro_row_carries_258(self):
         self.drag_row(2, 50)
