@@ -41,9 +41,8 @@ constexpr std::uint32_t kMostLoops = 256; // although the message says "less tha
 
 constexpr const char *kCopyPasteError =
     "The \"Copy & Paste\" macros found in this profile can not be saved on-board. Please delete "
-    "all "
-    "\"Copy & Paste\" macros and use a \"Text / Record Delay / No Delay\" macro modes to recreate "
-    "these macros if you want to store them on the mouse and use without the driver.";
+    "all \"Copy & Paste\" macros and use a \"Text / Record Delay / No Delay\" macro modes to "
+    "recreate these macros if you want to store them on the mouse and use without the driver.";
 constexpr const char *kLoopError =
     "Please reduce loop times of macro less than 256 times if you want to store them on the mouse "
     "and use without the driver.";

@@ -72,6 +72,11 @@ struct ControllerStage
     }
 
     void arrive() { clock.pass(kDuration); }
+    void toggleRightBar()
+    {
+        controll.toggleRightBar();
+        arrive();
+    }
     void passHalf() { clock.pass(kDuration / 2); }
     /// What was asked since the last call of this.
     QStringList asked() { return std::exchange(calls, {}); }

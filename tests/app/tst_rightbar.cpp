@@ -50,8 +50,7 @@ void tst_rightbar::openingHidesTheHandleUntilTheBarStands()
 void tst_rightbar::closingClosesThePanelsFirst()
 {
     ControllerStage stage;
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
     stage.asked();
     stage.controll.toggleRightBar();
     QCOMPARE(stage.asked(), list({"setAllWindowclose at 200", "hideMiniBar at 200"}));
@@ -65,14 +64,11 @@ void tst_rightbar::toggledTwiceTheBarIsAHandleWithAllPanelsClosed()
     stage.controll.findFunctionItem(4096);
     stage.arrive();
     stage.asked();
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
     QCOMPARE(stage.right.width(), 16);
     QVERIFY(stage.controll.IsMinRightBar());
-    stage.controll.toggleRightBar();
-    stage.arrive();
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
+    stage.toggleRightBar();
     QCOMPARE(stage.right.width(), 16);
     QVERIFY(stage.controll.IsMinRightBar());
     const QStringList asked = stage.asked();
@@ -85,8 +81,7 @@ void tst_rightbar::closedUnderWayTheBarNeverShowsAsOpen()
     ControllerStage stage;
     stage.controll.toggleRightBar();
     stage.passHalf();
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
     const QStringList asked = stage.asked();
     QCOMPARE(asked.size(), 4);
     QCOMPARE(asked.first(), QStringLiteral("hideMiniBar at 16"));
@@ -98,13 +93,11 @@ void tst_rightbar::closedUnderWayTheBarNeverShowsAsOpen()
 void tst_rightbar::openedUnderWayTheBarNeverShowsAsClosed()
 {
     ControllerStage stage;
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
     stage.controll.toggleRightBar();
     stage.passHalf();
     stage.asked();
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
     const QStringList asked = stage.asked();
     QCOMPARE(asked.size(), 2);
     QVERIFY(asked.first().startsWith(QStringLiteral("hideMiniBar")));
@@ -158,8 +151,7 @@ void tst_rightbar::everyFunctionIsShownWhereItLives()
 void tst_rightbar::onAnOpenBarAFunctionIsShownAtOnce()
 {
     ControllerStage stage;
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
     stage.asked();
     stage.controll.findFunctionItem(4096);
     stage.controll.findFunctionItem(3);
@@ -192,8 +184,7 @@ void tst_rightbar::whileTheBarOpensTheLastFunctionIsShown()
 void tst_rightbar::whileTheBarClosesItOpensAgainForAFunction()
 {
     ControllerStage stage;
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
     stage.controll.toggleRightBar();
     stage.passHalf();
     stage.asked();
@@ -211,10 +202,8 @@ void tst_rightbar::aBarThatIsClosedBeforeItStoodShowsNoFunction()
     ControllerStage stage;
     stage.controll.findFunctionItem(256);
     stage.passHalf();
-    stage.controll.toggleRightBar();
-    stage.arrive();
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
+    stage.toggleRightBar();
     QVERIFY(stage.asked().filter(QStringLiteral("setMacroSel")).isEmpty());
     QVERIFY(!stage.controll.IsMinRightBar());
 }
@@ -224,11 +213,9 @@ void tst_rightbar::aFunctionIsShownOnce()
     ControllerStage stage;
     stage.controll.findFunctionItem(256);
     stage.arrive();
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
     stage.asked();
-    stage.controll.toggleRightBar();
-    stage.arrive();
+    stage.toggleRightBar();
     QCOMPARE(stage.asked(), list({"hideMiniBar at 16", "openMiniBar at 200"}));
 }
 
