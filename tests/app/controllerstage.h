@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/windowcontroll.h"
+#include "app/fakebar.h"
 #include "support/animatedstyle.h"
 #include "support/animationclock.h"
 
@@ -20,15 +20,6 @@ struct FakeMain : MainContent
     void redraw() override { calls << QStringLiteral("main redraw"); }
 
     QStringList &calls;
-};
-
-struct FakeBar : BarContent
-{
-    FakeBar(QStringList &list, const char *bar) : calls(list), name(QLatin1String(bar)) {}
-    void InitSetting() override { calls << name + QStringLiteral(" InitSetting"); }
-
-    QStringList &calls;
-    QString name;
 };
 
 /// Its entries say how wide the bar was, too.

@@ -317,6 +317,8 @@ void tst_windowcontroll::aMoveOfABarAsksNothing()
     ControllerStage stage;
     stage.rightContent.resizes = 0;
     stage.main.move(350, 90);
+    QVERIFY(stage.right.pos() == QPoint(350 + 654, 90 + 90));
+    stage.right.move(10, 20);
     stage.controll.windowDidMove();
     QCOMPARE(stage.rightContent.resizes, 0);
     QCOMPARE(stage.asked(), QStringList());

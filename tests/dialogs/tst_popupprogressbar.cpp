@@ -70,6 +70,7 @@ void tst_popupprogressbar::theProgressIsBoundedAndWritten()
     stage.view.SetProgressPos(asked);
     QCOMPARE(stage.view.progressPos(), progress);
     QCOMPARE(stage.bar().getPos(), progress);
+    QVERIFY(stage.window.isVisible()); // at 100, too: whoever opened it closes it
     const QRect place(206, 74 - 18 - 16, 40, 16);
     QCOMPARE(shown(stage.view).copy(place), withText(skin("Pop_UP_normal"), text, place, 11));
 }

@@ -205,6 +205,22 @@ class Bars(RunningProgram):
             self.wait_for_arrangement((left, 0, width, height))
             self.drag(MAIN_TITLE, ((0, 50),))
 
+    def test_a_panel_at_the_top_of_the_screen_is_kept_clear(self):
+        panel = 40
+        self.stage.start(TOOLS / "dragstage")
+        self.stage.wait_for_active(OTHER_TITLE)
+        taken = f"0, 0, {panel}, 0, 0, 0, 0, 0, 0, 1279, 0, 0"
+        self.stage.output("xprop", "-id", self.stage.wait_for_window(OTHER_TITLE), "-f",
+                          "_NET_WM_STRUT_PARTIAL", "32c", "-set", "_NET_WM_STRUT_PARTIAL", taken)
+        wait_for(lambda: f"= 0, {panel}," in
+                 self.stage.output("xprop", "-root", "_NET_WORKAREA"), "a smaller work area")
+        for window in (MAIN_TITLE, *BARS):
+            left, top, width, height = self.main()
+            x, y = (a + b for a, b in zip(self.stage.frame(window), BACKGROUND[window]))
+            self.stage.drag((x, y), (x, y - top - 60))
+            self.wait_for_arrangement((left, panel, width, height))
+            self.drag(MAIN_TITLE, ((0, 50),))
+
     def test_the_bars_travel_when_the_window_manager_moves_the_window(self):
         window = self.stage.wait_for_window(MAIN_TITLE)
         for is_open in (False, True):

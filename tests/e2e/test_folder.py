@@ -2,6 +2,7 @@
 stays whole, and once there is room the next Apply writes."""
 
 import os
+import pathlib
 import plistlib
 import subprocess
 import sys
@@ -9,7 +10,7 @@ import unittest
 
 from settingsfile import changed, differences, rich_settings
 from stage import Stage, wait_for
-from test_main_job import RunningPrograms
+from test_main_job import PROGRAMS, RunningPrograms
 
 PRIVATE_MOUNTS = "KYR_PRIVATE_MOUNTS"
 FAILURE = "write fail!"
@@ -185,6 +186,35 @@ class SmallDisk(Disk):
         self.assert_writes_after(lambda: self.remount(f"size={FullDisk.size}"))
         buttons = self.file()["PROFILE_1"]
         self.assertEqual([buttons[f"BUTTON_{number}"] for number in (1, 5, 6)], [1, 4, 4])
+
+
+class RealPlace(Disk):
+    """The programs as they are installed, on the path that each of them has for itself."""
+
+    def new_stage(self):
+        self.folder = pathlib.Path("/Users/Shared/KT7R4")
+        if not self.folder.exists():
+            self.skipTest("the shared folder is not there")
+        stage = Stage(self.folder / "KT7R4Setting.xml")
+        self.prepare(stage)
+        return stage
+
+    def prepare(self, stage):
+        self.mount(f"size={self.size}")
+        self.put_settings(stage)
+
+    def driver_command(self):
+        return (PROGRAMS / "kt7r4d",)
+
+    def utility_command(self):
+        return (PROGRAMS / "KyrGM",)
+
+    def test_both_programs_meet_there(self):
+        self.assign("Button5")
+        self.apply_well()
+        self.driver.wait_for_line("BUTTON_5=4 ")
+        self.assert_file(PROFILE_1=BUTTON_5)
+        self.assert_only_file()
 
 
 class ReadOnly(Disk):

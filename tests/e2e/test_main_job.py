@@ -21,16 +21,25 @@ class RunningPrograms(unittest.TestCase):
     def setUp(self):
         self.stage = self.new_stage()
         self.addCleanup(self.stage.close)
-        self.driver = self.stage.start(PROGRAMS / "kt7r4d", "--settings", self.stage.settings,
-                                       "--state-dir", self.stage.folder / "state")
-        self.driver.wait_for_line("ready")
+        self.start_driver()
         self.start_utility()
 
     def new_stage(self):
         return Stage()
 
+    def start_driver(self):
+        self.driver = self.stage.start(*self.driver_command())
+        self.driver.wait_for_line("ready")
+
+    def driver_command(self):
+        return (PROGRAMS / "kt7r4d", "--settings", self.stage.settings,
+                "--state-dir", self.stage.folder / "state")
+
+    def utility_command(self):
+        return TOOLS / "kyrgm_at", self.stage.settings
+
     def start_utility(self):
-        self.utility = self.stage.start(TOOLS / "kyrgm_at", self.stage.settings)
+        self.utility = self.stage.start(*self.utility_command())
         self.stage.wait_for_main_window()
         self.idle_apply = self.stage.pixels(self.stage.control_box("ButtonApply"))
 
@@ -225,8 +234,8 @@ class MainJob(RunningPrograms):
 
     def test_a_drag_on_a_button_leaves_the_window(self):
         frame = self.stage.frame(MAIN_TITLE)
-        # The last two are disabled.
-        for button in ("ButtonOK", "BtnProfile3", "ButtonApply", "ButtonRestore"):
+        # Apply is disabled.
+        for button in ("ButtonOK", "BtnProfile3", "ButtonRestore", "ButtonApply"):
             x, y, width, height = self.stage.control_box(button)
             self.stage.drag((x + width // 2, y + height // 2), (x + 5, y + 140))
         # The window answers events in order: with this one done, the drags are done too.

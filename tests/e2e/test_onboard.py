@@ -10,7 +10,7 @@ import sys
 import unittest
 
 from settingsfile import changed, rich_settings
-from stage import MENU_TITLES, Stage, wait_for
+from stage import MAIN_TITLE, MENU_TITLES, Stage, wait_for
 from test_main_job import PROGRAMS, TOOLS, RunningPrograms
 
 PROGRESS = "Applying profile to on-board memory..."
@@ -36,11 +36,6 @@ def settled_pixels(stage, frame):
 class OnBoard(RunningPrograms):
     def save_on_board(self):
         self.stage.click_control("ButtonSaveToDevice")
-
-    def start_driver(self):
-        self.driver = self.stage.start(PROGRAMS / "kt7r4d", "--settings", self.stage.settings,
-                                       "--state-dir", self.stage.folder / "state")
-        self.driver.wait_for_line("ready")
 
     def wait_for_progress(self):
         """Waits for the progress window; its pixels."""
@@ -98,6 +93,18 @@ class Save(OnBoard):
         self.assertIn(" BUTTON_5=4 ", self.described())
         self.stage.move_to(0, 0)
         wait_for(lambda: not self.apply_changed(), "a disabled Apply")
+
+    def test_the_window_stands_in_the_middle_and_leaves_the_keyboard(self):
+        self.driver.process.send_signal(signal.SIGSTOP)
+        self.save_on_board()
+        self.wait_for_progress()
+        self.assertEqual(self.stage.frame(PROGRESS), (512, 475, 256, 74))
+        button = self.stage.control_box("BtnHelp")
+        before = self.stage.pixels(button)
+        self.stage.key("Tab")
+        wait_for(lambda: self.stage.pixels(button) != before, "the keyboard on another button")
+        self.assertEqual(self.stage.active_title(), MAIN_TITLE)
+        self.driver.process.send_signal(signal.SIGCONT)
 
     def test_the_utility_works_on_while_the_window_is_open(self):
         self.driver.process.send_signal(signal.SIGSTOP)

@@ -1,4 +1,5 @@
 #include "fullsettings.h"
+#include "support/dialogs.h"
 #include "support/drop.h"
 #include "support/mainwindow.h"
 #include "support/menus.h"
@@ -221,6 +222,12 @@ void tst_devicesettings::theChangeMarkIsLeftAlone()
     dropText(stage.mouseButton(3), QStringLiteral("11"));
     stage.choose(item);
     QVERIFY(stage.applyIsEnabled());
+    const DialogVisitor visitor([](const OpenDialog &question) { question.click("ButtonClose"); });
+    pointer::click(stage.profileKey(7));
+    QCOMPARE(visitor.count(), 1);
+    stage.choose(item);
+    pointer::click(stage.profileKey(3));
+    QCOMPARE(visitor.count(), 1);
 }
 
 void tst_devicesettings::whatIsWrittenIncludesTheEdits_data()

@@ -1,4 +1,5 @@
 #include "fullsettings.h"
+#include "quickliststage.h"
 #include "support/dialogs.h"
 #include "support/drop.h"
 #include "support/mainwindow.h"
@@ -29,6 +30,8 @@ private Q_SLOTS:
     void anImportLeavesTheChangeMark_data() { states(); }
     void anImportLeavesTheChangeMark();
     void anImportKeepsTheGauge();
+    void theCaptionsAreRebuiltAfterEveryImport_data() { importRows(); }
+    void theCaptionsAreRebuiltAfterEveryImport();
     void whatCannotBeReadChangesNothing_data();
     void whatCannotBeReadChangesNothing();
     void aProfileIsTheSameInAnotherSlot();
@@ -59,9 +62,9 @@ using Question = FakeFilePanels::Question;
 using Questions = std::vector<Question>;
 
 /// The program on full settings, with a folder for profile files.
-struct PanelStage : MainWindowStage
+struct PanelStage : QuickListStage
 {
-    PanelStage() : MainWindowStage(fullSettings()) { choose(); }
+    PanelStage() : QuickListStage(fullSettings()) { choose(); }
 
     QString path() const { return m_folder.filePath(QStringLiteral("Exported.XML")); }
     /// The next panels are answered with the file, or cancelled.
@@ -91,6 +94,14 @@ struct PanelStage : MainWindowStage
             edit();
     }
     bool isFileUntouched() const { return settings.bytes() == fullSettings(); }
+    /// Whether a switch of the profile asks about changes.
+    bool asksAboutChanges() const
+    {
+        const DialogVisitor visitor(
+            [](const OpenDialog &question) { question.click("ButtonClose"); });
+        pointer::click(profileKey(7));
+        return visitor.count() == 1;
+    }
 
     const Record loaded = copyOf();
 
@@ -137,6 +148,7 @@ void tst_importexport::anExportTouchesNothingElse()
     QVERIFY(stage.isFileUntouched());
     QVERIFY(stage.requestsSinceStart().empty());
     QCOMPARE(stage.applyIsEnabled(), edited);
+    QCOMPARE(stage.asksAboutChanges(), edited);
 }
 
 void tst_importexport::anExportTakesTheEditsAlong()
@@ -222,9 +234,7 @@ void tst_importexport::anImportLeavesTheChangeMark()
     stage.editIf(edited);
     stage.importProfile();
     QCOMPARE(stage.applyIsEnabled(), edited);
-    const DialogVisitor visitor([](const OpenDialog &question) { question.click("ButtonClose"); });
-    pointer::click(stage.profileKey(7));
-    QCOMPARE(visitor.count(), edited ? 1 : 0);
+    QCOMPARE(stage.asksAboutChanges(), edited);
 }
 
 void tst_importexport::anImportKeepsTheGauge()
@@ -238,6 +248,21 @@ void tst_importexport::anImportKeepsTheGauge()
     QCOMPARE(stage.view().memoryUsage(), 1U);
     stage.reportProfile(3);
     QCOMPARE(stage.view().memoryUsage(), 0U);
+}
+
+void tst_importexport::theCaptionsAreRebuiltAfterEveryImport()
+{
+    QFETCH(QByteArray, file);
+    PanelStage stage;
+    stage.choose(file);
+    clickRow(stage.open(1), 3);
+    QTRY_VERIFY(openLists().empty());
+    const QString rebuilt = file.startsWith("<?xml")
+                                ? QString()
+                                : QStringLiteral("Button 4"); // the list says it longer
+    QCOMPARE(stage.mouseButton(1).captionText(), QStringLiteral("Mouse Button 4"));
+    stage.importProfile();
+    QCOMPARE(stage.mouseButton(1).captionText(), rebuilt);
 }
 
 void tst_importexport::whatCannotBeReadChangesNothing_data()

@@ -21,7 +21,8 @@ private Q_SLOTS:
     void everyKindOfEditIsAskedAbout();
     void whatIsSavedIsNotAskedAbout_data();
     void whatIsSavedIsNotAskedAbout();
-    void theInGameModeIsNotAskedAbout();
+    void theInGameModeLeavesTheChangeMark_data();
+    void theInGameModeLeavesTheChangeMark();
     void theOtherControlsWaitForTheAnswer();
     void okWritesTheFileAndSwitches_data() { keyRows(); }
     void okWritesTheFileAndSwitches();
@@ -187,13 +188,23 @@ void tst_profileswitch::whatIsSavedIsNotAskedAbout()
     QCOMPARE(visitor.count(), 0);
 }
 
-void tst_profileswitch::theInGameModeIsNotAskedAbout()
+void tst_profileswitch::theInGameModeLeavesTheChangeMark_data()
 {
+    QTest::addColumn<bool>("edited");
+    QTest::newRow("edited") << true;
+    QTest::newRow("unedited") << false;
+}
+
+void tst_profileswitch::theInGameModeLeavesTheChangeMark()
+{
+    QFETCH(bool, edited);
     const SwitchStage stage;
+    if (edited)
+        stage.edit();
     pointer::click(stage.button("chkGameMode"));
     const DialogVisitor visitor(answerOK);
     stage.switchTo(4);
-    QCOMPARE(visitor.count(), 0);
+    QCOMPARE(visitor.count(), edited ? 1 : 0);
     QVERIFY(stage.shows(4));
 }
 

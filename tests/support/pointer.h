@@ -57,12 +57,12 @@ inline void move(const QWidget &control, QPoint to)
 }
 
 /// Turns the wheel over the middle of a control, by a step when `angle` is 120.
-inline void turnWheel(QWidget &control, int angle)
+inline void turnWheel(const QWidget &control, int angle)
 {
     const QPoint at = control.rect().center();
-    QWheelEvent event(at, control.mapToGlobal(at), {}, {0, angle}, Qt::NoButton, {},
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&control, &event);
+    QWheelEvent event(inWindow(control, at), control.mapToGlobal(at), {}, {0, angle}, Qt::NoButton,
+                      {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(windowOf(control), &event);
 }
 
 } // namespace pointer
