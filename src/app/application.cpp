@@ -2,6 +2,7 @@
 
 #include "app/interface.h"
 #include "app/KyrGMAppDelegate.h"
+#include "app/skinpalette.h"
 #include "platform/desktop.h"
 #include "platform/desktoppanels.h"
 #include "platform/notificationcenter.h"
@@ -14,6 +15,7 @@ int runKyrGM(int argc, char **argv, const std::string &settingsPath)
     preferPlacedWindows();
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("KyrGM"));
+    useSkinPalette();
 
     const auto notifications = NotificationCenter::distributed();
     // Not quit(): that asks the windows to close first, and to the main window closing means to

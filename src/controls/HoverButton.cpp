@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kCaptionSize = 10;
 constexpr int kCaptionMargin = 8; // clear of the lamps that light up in the pressed face
+constexpr int kDropFrameWidth = 2;
+constexpr QColor kDropFrame(255, 223, 128);
 constexpr float kDisabledCaption = 0.55F;
 
 /// A caption may hold anything, also what looks like markup: it is shown as it stands.
@@ -18,6 +20,16 @@ QString asOneLine(const QString &text)
 {
     return QStringLiteral("<p style='white-space:pre'>") + text.toHtmlEscaped() +
            QStringLiteral("</p>");
+}
+
+/// Broad and bright, so that it shows beside the picture that is dragged.
+void drawDropFrame(Canvas &canvas)
+{
+    UpRect frame = canvas.bounds();
+    for (int line = 0; line < kDropFrameWidth; ++line) {
+        canvas.outline(frame, kDropFrame);
+        frame = {frame.x + 1, frame.y + 1, frame.width - 2, frame.height - 2};
+    }
 }
 
 UpRect captionRect(UpRect bounds)
@@ -88,7 +100,7 @@ void HoverButton::setDisable(bool disable)
 {
     // Disabling passes the keyboard on as the tab key would, and with it the frame that shows where
     // it is: not before a player has asked for that.
-    if (disable && hasFocus() && !m_showsFocus)
+    if (disable && hasFocus() && !m_focusFrame.isShown(*this))
         clearFocus();
     m_bEnableDisable = disable;
     setEnabled(!disable);
@@ -108,8 +120,10 @@ void HoverButton::drawRect(Canvas &canvas)
         colour.setAlphaF(kDisabledCaption);
     canvas.drawLine(m_caption, captionRect(canvas.bounds()), colour, TextAlign::Centre,
                     kCaptionSize);
-    if (hasFocus() && m_showsFocus)
+    if (m_focusFrame.isShown(*this))
         canvas.outline(canvas.bounds(), kGold);
+    if (m_isDropTarget)
+        drawDropFrame(canvas);
 }
 
 void HoverButton::rightMouseDown(const ViewMouseEvent &event)
@@ -123,11 +137,7 @@ void HoverButton::rightMouseDown(const ViewMouseEvent &event)
 
 void HoverButton::focusInEvent(QFocusEvent *event)
 {
-    // A window that becomes active hands the focus to some control, a menu that closes hands it
-    // back; only a player who moves it by key wants to see where it is.
-    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
-        m_showsFocus =
-            event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    m_focusFrame.focusIn(*event);
     ViewOf::focusInEvent(event);
 }
 
@@ -157,12 +167,12 @@ void HoverButton::dragEnterEvent(QDragEnterEvent *event)
         return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    showHover();
+    setDropTarget(true);
 }
 
 void HoverButton::dragLeaveEvent(QDragLeaveEvent * /*event*/)
 {
-    showNormal();
+    setDropTarget(false);
 }
 
 void HoverButton::dropEvent(QDropEvent *event)
@@ -170,7 +180,7 @@ void HoverButton::dropEvent(QDropEvent *event)
     m_DropIndex = leadingInteger(event->mimeData()->text().toStdString());
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    showNormal();
+    setDropTarget(false);
     GetDragAction.send(this);
 }
 
@@ -196,6 +206,12 @@ void HoverButton::showHover()
 {
     if (!m_bEnableDisable)
         showFace(HoverImage.isNull() ? NormalImage : HoverImage);
+}
+
+void HoverButton::setDropTarget(bool isTarget)
+{
+    m_isDropTarget = isTarget;
+    isTarget ? showHover() : showNormal();
 }
 
 void HoverButton::showNormal()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/action.h"
+#include "platform/focusframe.h"
 #include "platform/view.h"
 
 #include <QtWidgets/QAbstractButton>
@@ -59,6 +60,7 @@ private:
     void showFace(const SkinImage &image);
     void showHover();
     void showNormal();
+    void setDropTarget(bool isTarget);
     bool isPressedOrOn() const { return isDown() || isChecked(); }
 
     SkinImage m_shown; ///< the face of a button that is neither pressed nor on
@@ -70,8 +72,9 @@ private:
     Action<HoverButton *> m_action;
     Action<HoverButton *> RightAction;
     Action<HoverButton *> GetDragAction;
-    bool m_showsFocus = false; ///< the keyboard was brought here by the keyboard
+    FocusFrame m_focusFrame;
     bool bCanDragDrop = false;
+    bool m_isDropTarget = false;   ///< a drag that it takes is over it
     bool m_bEnableDisable = false; ///< true = disabled
     int m_DropIndex = 0;
     int m_tag = 0;

@@ -1,10 +1,7 @@
 #include "controls/pngListBox.h"
 
+#include "controls/rowdrag.h"
 #include "platform/systemlog.h"
-
-#include <QtCore/QMimeData>
-#include <QtGui/QDrag>
-#include <QtWidgets/QApplication>
 
 #include <algorithm>
 
@@ -12,7 +9,6 @@ namespace {
 
 constexpr int kTextSize = 11;
 constexpr int kTextInset = 3; ///< the text stands in the row's strip shortened by this
-constexpr qreal kDragOpacity = 0.5;
 
 QColor colourOf(double red, double green, double blue)
 {
@@ -122,6 +118,14 @@ void pngListBox::drawRect(Canvas &canvas)
         canvas.drawLine(pListArray[row], place, colourOf(_textColorR, _textColorG, _textColorB),
                         _textAlign, kTextSize);
     }
+    if (m_focusFrame.isShown(*this))
+        canvas.outline(canvas.bounds(), kGold);
+}
+
+void pngListBox::focusInEvent(QFocusEvent *event)
+{
+    m_focusFrame.focusIn(*event);
+    View::focusInEvent(event);
 }
 
 void pngListBox::mouseDown(const ViewMouseEvent &event)
@@ -147,36 +151,12 @@ void pngListBox::mouseUp(const ViewMouseEvent &event)
 
 void pngListBox::mouseDragged(const ViewMouseEvent &event)
 {
-    const QPoint way = event.event->position().toPoint() - m_pressedAt;
     if (!bEnableDragDrop || !hasFunctions() ||
-        way.manhattanLength() < QApplication::startDragDistance())
+        !isDrag(m_pressedAt, event.event->position().toPoint()))
         return;
     if (_currentpos >= 0 && _currentpos < getCount())
-        dragSelectedRow();
-}
-
-void pngListBox::dragSelectedRow()
-{
-    auto *const text = new QMimeData;
-    text->setText(QString::number(getfunctionid(_currentpos)));
-    auto *const drag = new QDrag(this); // the toolkit deletes it when the drag is over
-    drag->setMimeData(text);
-    drag->setPixmap(dragImage());
-    drag->setHotSpot(m_pressedAt - UpHost(height()).down(strip(_currentpos)).topLeft());
-    drag->exec(Qt::CopyAction);
-}
-
-QPixmap pngListBox::dragImage() const
-{
-    const QPixmap row =
-        const_cast<pngListBox *>(this)->grab(UpHost(height()).down(strip(_currentpos)));
-    QPixmap image(row.size());
-    image.setDevicePixelRatio(row.devicePixelRatio());
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setOpacity(kDragOpacity);
-    painter.drawPixmap(0, 0, row);
-    return image;
+        dragRow(*this, UpHost(height()).down(strip(_currentpos)), m_pressedAt,
+                QString::number(getfunctionid(_currentpos)));
 }
 
 void pngListBox::keyDown(QKeyEvent *event)

@@ -2,6 +2,7 @@
 
 #include "model/settings.h"
 #include "platform/action.h"
+#include "platform/focusframe.h"
 #include "platform/keywindow.h"
 #include "platform/view.h"
 
@@ -66,14 +67,13 @@ protected:
     void mouseUp(const ViewMouseEvent &event) override;
     void mouseDragged(const ViewMouseEvent &event) override;
     void keyDown(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     UpRect strip(int row) const;
     bool hasFunctions() const { return _tag >= kCpiListTag && _tag <= kMacroListTag; }
     void windowKeyChange();
     void moveSelection(int by);
-    void dragSelectedRow();
-    QPixmap dragImage() const;
 
     QStringList pListArray;
     int _tag = 0;
@@ -92,6 +92,7 @@ private:
     bool bEnableDBClick = false;
     int m_ItemHeight = 20;
     KeyWindowWatch m_keyWatch;
+    FocusFrame m_focusFrame;
     quint64 m_releasedAt = 0;
     QPoint m_pressedAt; ///< where the left button went down, for the drag threshold
 };

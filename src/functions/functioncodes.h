@@ -42,6 +42,17 @@ inline constexpr FunctionCode kEndOfMacroCodes = 4096;
 const BasicFunction *basicFunction(FunctionCode code);
 /// The seven categories of game commands.
 std::span<const GameCategory> gameCategories();
+/// The number that the codes of a category's commands begin after; it names nothing itself.
+constexpr FunctionCode codesBegin(unsigned category)
+{
+    return (category + 1) << 12U;
+}
+/// The code of a game command by its category and its place in it, both 0-based; whether there is
+/// such a command is not looked at.
+constexpr FunctionCode gameCode(unsigned category, unsigned item)
+{
+    return codesBegin(category) | (item + 1);
+}
 /// The game command of a code; null when the code names none.
 const GameCommand *gameCommand(FunctionCode code);
 /// The macro slot of a code, 0..3839 (only slots below 50 exist); nothing when it is no macro code.

@@ -1,14 +1,23 @@
 #pragma once
 
+#include "functions/rightbarTreeView.h"
+#include "macro/rightbarMacro.h"
 #include "panels/barview.h"
+#include "panels/rightbarDPI.h"
+#include "panels/rightbarProfile.h"
 
-/// The content of the right bar: the panels in which button functions are chosen.
+#include <array>
+
+/// The content of the right bar: the four panels in which button functions are chosen, one below
+/// another. A player who expands one collapses the others.
 class RightView : public BarView, public SidePanels
 {
 public:
     explicit RightView(QWidget *parent);
 
-    void ResizeComponent() override {}
+    void awakeFromNib() override;
+
+    void ResizeComponent() override;
     void hideMiniBar() override;
     void openMiniBar() override;
     void closeMiniBar() override;
@@ -18,6 +27,11 @@ public:
     void setProfileSel(std::int32_t row) override;
     void setMacroSel(std::int32_t row) override;
 
+    /// A player has expanded or collapsed a panel, told apart by its tag.
+    void ViewNoticeAction(CollapsiblePanel *panel);
+    /// A function was chosen in a panel: the controller is told.
+    void NoticeMainFuncChange(FunctionCode code);
+
 protected:
     void toggleBar() override;
     void closeBar() override;
@@ -25,7 +39,21 @@ protected:
     UpPoint backgroundOrigin() const override;
 
 private:
+    static constexpr std::size_t kPanelCount = 4;
+
+    std::array<CollapsiblePanel *, kPanelCount> panels() const;
+    void expandOnly(const CollapsiblePanel *panel);
+    void show(CollapsiblePanel *panel);
+    void manageViewPos();
+    void stack(bool asExpanded);
+    static void hideQuietly(QWidget &part);
+    void placePanel(CollapsiblePanel &panel, int y, int height);
     void showToggleAt(UpPoint origin);
 
+    rightbarTreeView *pTreeView = nullptr;
+    rightbarDPI *pDPIView = nullptr;
+    rightbarProfile *pProfileView = nullptr;
+    rightbarMacro *pMacroView = nullptr;
     bool m_toggleHadKeyboard = false;
+    bool m_macroHidden = false; ///< while the bar slides, and as long as it is closed
 };

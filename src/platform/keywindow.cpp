@@ -24,6 +24,13 @@ void makeKeyWindow(QWidget &window)
         window.activateWindow();
 }
 
+QWidget *keyboardWithin(const QWidget &part)
+{
+    QWidget *const focused = part.window()->focusWidget();
+    const bool isWithin = focused && (focused == &part || part.isAncestorOf(focused));
+    return isWithin ? focused : nullptr;
+}
+
 void KeyWindowWatch::start(QWidget *window, std::function<void()> resigned)
 {
     stop();

@@ -16,6 +16,9 @@ void makeKeyAndOrderFront(QWidget &window);
 /// Gives `window` the keyboard, unless another program has it.
 void makeKeyWindow(QWidget &window);
 
+/// What in `part`, or `part` itself, has the keyboard when their window has it; null when nothing.
+QWidget *keyboardWithin(const QWidget &part);
+
 /// Tells when a window stops being the one that has the keyboard.
 class KeyWindowWatch : public QObject
 {

@@ -27,33 +27,43 @@ UpPoint onScreen(const QWidget &view, UpPoint point);
 class Placed
 {
 public:
-    virtual void place() = 0;
-
-protected:
-    ~Placed() = default;
-};
-
-/// Puts every placed child of `view` where its upward frame says; called when its height changes.
-void placeChildren(const QWidget &view);
-
-/// The toolkit class `Base` as a view: painting and input arrive at the virtuals below, in upward
-/// coordinates. Each does by default what `Base` does; an override that does not call it keeps the
-/// event to itself.
-template <class Base>
-class ViewOf : public Base, public Placed
-{
-public:
-    using Base::Base;
-
-    /// Moves and resizes the view; for a window, on the screen.
+    /// Moves and resizes the view; a window, on the screen.
     void setFrame(UpRect frame)
     {
         m_frame = frame;
         place();
     }
+    virtual void place() = 0;
+
+protected:
+    ~Placed() = default;
+
+    UpRect m_frame;
+};
+
+/// Puts every placed child of `view` where its upward frame says; called when its height changes.
+void placeChildren(const QWidget &view);
+
+/// The toolkit class `Base`, placed by an upward frame.
+template <class Base>
+class Framed : public Base, public Placed
+{
+public:
+    using Base::Base;
+
     UpRect frame() const { return this->isWindow() ? hostOf(*this).up(this->geometry()) : m_frame; }
 
     void place() final { this->setGeometry(hostOf(*this).down(m_frame)); }
+};
+
+/// The toolkit class `Base` as a view: painting and input arrive at the virtuals below, in upward
+/// coordinates. Each does by default what `Base` does; an override that does not call it keeps the
+/// event to itself.
+template <class Base>
+class ViewOf : public Framed<Base>
+{
+public:
+    using Framed<Base>::Framed;
 
     /// Called once, when the whole interface stands.
     virtual void awakeFromNib() {}
@@ -135,8 +145,6 @@ private:
             return false;
         }
     }
-
-    UpRect m_frame;
 };
 
 using View = ViewOf<QWidget>;

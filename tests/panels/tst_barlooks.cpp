@@ -1,4 +1,5 @@
 #include "barsstage.h"
+#include "controls/collapsiblepanel.h"
 #include "support/keyboard.h"
 #include "support/pictures.h"
 #include "support/skinpictures.h"
@@ -81,8 +82,10 @@ void tst_barlooks::anOpenBarShowsItsWholePicture()
     stage.clickToggle(*known);
     const QRect whole(QPoint(), pictureSize(*known));
     QCOMPARE(skin(known->background).size(), whole.size());
-    const std::vector covers{stage.toggle(*known).geometry(),
-                             UpHost(known->open.height).down(known->titleRect)};
+    std::vector covers{stage.toggle(*known).geometry(),
+                       UpHost(known->open.height).down(known->titleRect)};
+    for (const QWidget *panel : stage.content(*known).findChildren<CollapsiblePanel *>())
+        covers.push_back(panel->geometry());
     QCOMPARE(without(covers, shownPart(stage, *known, whole)),
              without(covers, picture(*known, whole)));
 }

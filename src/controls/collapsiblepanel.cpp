@@ -1,0 +1,97 @@
+#include "controls/collapsiblepanel.h"
+
+#include "platform/keywindow.h"
+
+namespace {
+
+constexpr QColor kStrip(21, 21, 21);
+constexpr QColor kStripLit(255, 240, 208, 24);
+constexpr int kStripMargin = 2;
+constexpr int kTitleLeft = 168; // from the right edge
+constexpr int kTitleHeight = 15;
+constexpr int kTitleSize = 11;
+
+} // namespace
+
+CollapsiblePanel::CollapsiblePanel(const PanelLook &look, QWidget *parent, UpRect frame,
+                                   const Action<CollapsiblePanel *> &noticeAction)
+    : View(parent),
+      m_look(look),
+      btnExpand(AddCheckButton(look.collapsed.toggle, {this, &CollapsiblePanel::buttonAction})),
+      _noticeAction(noticeAction)
+{
+    setFrame(frame);
+}
+
+HoverButton *CollapsiblePanel::AddCheckButton(UpRect frame, const Action<HoverButton *> &setAction)
+{
+    auto *const button = new HoverButton(this, frame);
+    button->setObjectName(QStringLiteral("btnExpand"));
+    button->setAccessibleName(QLatin1String(m_look.title));
+    button->setCheckable(true);
+    button->setNormalImage(SkinImage::named("add"));
+    button->setAlternateImage(SkinImage::named("minus"));
+    button->setAction(setAction);
+    return button;
+}
+
+void CollapsiblePanel::SetExpanded(bool expanded)
+{
+    bExpanded = expanded;
+    ExpandView(expanded);
+}
+
+void CollapsiblePanel::buttonAction(HoverButton * /*sender*/)
+{
+    SetExpanded(!bExpanded);
+    _noticeAction.send(this);
+}
+
+void CollapsiblePanel::ExpandView(bool expand)
+{
+    const PanelLook::Layout &layout = expand ? m_look.expanded : m_look.collapsed;
+    btnExpand->setChecked(expand);
+    btnExpand->setFrame(layout.toggle);
+    if (!m_content)
+        return;
+    m_contentPlace->setFrame(layout.content);
+    if (!expand)
+        passKeyboardOn();
+    // A collapsed panel is too low to show it; hidden, the tab key passes it by.
+    m_content->setVisible(expand);
+    update();
+}
+
+/// What is about to hide gives the keyboard to the button that brings it back.
+void CollapsiblePanel::passKeyboardOn()
+{
+    if (keyboardWithin(*m_content))
+        btnExpand->setFocus(Qt::OtherFocusReason);
+}
+
+void CollapsiblePanel::drawRect(Canvas &canvas)
+{
+    const int top = height();
+    const UpRect strip{kStripMargin, top - m_look.stripDepth, width() - 2 * kStripMargin,
+                       m_look.stripHeight};
+    if (m_look.isFilled)
+        canvas.fill(canvas.bounds(), Qt::black);
+    canvas.fill(strip, kStrip);
+    canvas.fill({strip.x, strip.y + strip.height - 1, strip.width, 1}, kStripLit);
+    canvas.drawLine(
+        QLatin1String(m_look.title),
+        {width() - kTitleLeft, top - m_look.titleDepth, width() - 2 * kStripMargin, kTitleHeight},
+        kWhite, TextAlign::Left, kTitleSize);
+}
+
+void CollapsiblePanel::mouseDown(const ViewMouseEvent & /*event*/)
+{
+    // Kept from the window behind, which a press would begin to drag.
+}
+
+void CollapsiblePanel::mouseUp(const ViewMouseEvent &event)
+{
+    const int depth = height() - event.position.y;
+    if (rect().contains(event.event->position().toPoint()) && depth <= m_look.clickDepth)
+        buttonAction(btnExpand);
+}

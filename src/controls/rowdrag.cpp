@@ -1,0 +1,42 @@
+#include "controls/rowdrag.h"
+
+#include <QtCore/QMimeData>
+#include <QtGui/QDrag>
+#include <QtWidgets/QApplication>
+
+namespace {
+
+constexpr qreal kOpacity = 0.5;
+
+QPixmap pictureOf(QWidget &source, QRect strip)
+{
+    const QPixmap row = source.grab(strip);
+    QPixmap picture(row.size());
+    picture.setDevicePixelRatio(row.devicePixelRatio());
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setOpacity(kOpacity);
+    painter.drawPixmap(0, 0, row);
+    // Dark rows over a dark window have no edge of their own.
+    painter.setPen(kGold);
+    painter.drawRect(QRectF(QPointF(), strip.size()).adjusted(0.5, 0.5, -0.5, -0.5));
+    return picture;
+}
+
+} // namespace
+
+void dragRow(QWidget &source, QRect strip, QPoint pressedAt, const QString &text)
+{
+    auto *const data = new QMimeData;
+    data->setText(text);
+    auto *const drag = new QDrag(&source); // the toolkit deletes it when the drag is over
+    drag->setMimeData(data);
+    drag->setPixmap(pictureOf(source, strip));
+    drag->setHotSpot(pressedAt - strip.topLeft());
+    drag->exec(Qt::CopyAction);
+}
+
+bool isDrag(QPoint pressedAt, QPoint now)
+{
+    return (now - pressedAt).manhattanLength() >= QApplication::startDragDistance();
+}

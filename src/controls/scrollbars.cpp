@@ -1,0 +1,119 @@
+#include "controls/scrollbars.h"
+
+#include "platform/canvas.h"
+
+#include <QtWidgets/QAbstractScrollArea>
+#include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyleOptionSlider>
+
+namespace {
+
+constexpr int kShortestSlider = 24;
+constexpr qreal kCorner = 2.5;
+
+constexpr QColor kGroove(13, 10, 8);
+constexpr QColor kEdge(7, 5, 4);
+constexpr QColor kBrass(138, 108, 56);
+constexpr QColor kLit(224, 168, 58);
+
+/// A slider in a groove, without arrows.
+class ScrollBarStyle : public QProxyStyle
+{
+public:
+    ScrollBarStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        switch (metric) {
+        case PM_ScrollBarExtent:
+        case PM_ScrollView_ScrollBarOverlap:
+            return kScrollBarWidth;
+        case PM_ScrollBarSliderMin:
+            return kShortestSlider;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *result) const override
+    {
+        if (hint == SH_ScrollBar_Transient)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, result);
+    }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                         const QWidget *widget) const override
+    {
+        const auto *const bar = qstyleoption_cast<const QStyleOptionSlider *>(option);
+        if (control != CC_ScrollBar || !bar)
+            return QProxyStyle::subControlRect(control, option, part, widget);
+        return partOf(*bar, part);
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget) const override
+    {
+        const auto *const bar = qstyleoption_cast<const QStyleOptionSlider *>(option);
+        if (control != CC_ScrollBar || !bar)
+            return QProxyStyle::drawComplexControl(control, option, painter, widget);
+        painter->fillRect(bar->rect, kGroove);
+        const bool isHeld = bar->activeSubControls & SC_ScrollBarSlider;
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(kEdge);
+        painter->setBrush(isHeld ? kLit : kBrass);
+        painter->drawRoundedRect(QRectF(partOf(*bar, SC_ScrollBarSlider)).adjusted(1, 1, -1, -1),
+                                 kCorner, kCorner);
+    }
+
+private:
+    /// The groove is the whole bar; the slider stands in it, the pages are what it leaves.
+    static QRect partOf(const QStyleOptionSlider &bar, SubControl part)
+    {
+        const bool upright = bar.orientation == Qt::Vertical;
+        const int whole = upright ? bar.rect.height() : bar.rect.width();
+        const int length = sliderLength(bar, whole);
+        const int start = sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
+                                                  whole - length, bar.upsideDown);
+        const auto span = [&](int from, int to) {
+            return upright ? QRect(0, from, bar.rect.width(), to - from)
+                           : QRect(from, 0, to - from, bar.rect.height());
+        };
+        switch (part) {
+        case SC_ScrollBarSlider:
+            return span(start, start + length);
+        case SC_ScrollBarSubPage:
+            return span(0, start);
+        case SC_ScrollBarAddPage:
+            return span(start + length, whole);
+        case SC_ScrollBarGroove:
+            return span(0, whole);
+        default:
+            return {};
+        }
+    }
+
+    static int sliderLength(const QStyleOptionSlider &bar, int whole)
+    {
+        const qint64 range = static_cast<qint64>(bar.maximum) - bar.minimum;
+        if (range <= 0)
+            return whole;
+        const auto share = static_cast<int>(bar.pageStep * whole / (range + bar.pageStep));
+        return std::clamp(share, std::min(kShortestSlider, whole), whole);
+    }
+};
+
+} // namespace
+
+void useSkinScrollBars(QAbstractScrollArea &area)
+{
+    auto *const style = new ScrollBarStyle;
+    style->setParent(&area);
+    for (QScrollBar *bar : {area.verticalScrollBar(), area.horizontalScrollBar()})
+        bar->setStyle(style);
+    area.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}

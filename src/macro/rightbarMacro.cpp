@@ -1,0 +1,106 @@
+#include "macro/rightbarMacro.h"
+
+#include "controls/scrollbars.h"
+#include "model/fixedtext.h"
+
+#include <QtWidgets/QScrollArea>
+
+namespace {
+
+constexpr FunctionListLook kLook{.panel = {.title = "Custom Macros",
+                                           .stripDepth = 50,
+                                           .stripHeight = 48,
+                                           .titleDepth = 23,
+                                           .clickDepth = 20,
+                                           .collapsed = {{156, 28, 17, 18}, {0, 50, 175, 220}},
+                                           .expanded = {{156, 268, 17, 18}, {0, 0, 175, 240}}},
+                                 .listTag = kMacroListTag,
+                                 .listName = "pMacroListbox",
+                                 .logLine = "Macro Index:%d"};
+
+constexpr int kListWidth = 175;
+constexpr int kListHeight = 240; ///< at first; it grows with its rows
+constexpr int kRowsThatFit = 11;
+
+/// The buttons stand in the header, whose lower edge moves with the panel's height.
+constexpr UpRect kNew{10, 0, 74, 27};
+constexpr UpRect kDelete{90, 0, 74, 27};
+
+QString nameOf(const MacroInfo &macro)
+{
+    const auto name = GetText(macro.MACRO_NAME);
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+HoverButton *makeHeaderButton(QWidget *parent, const char *name, const char *caption)
+{
+    auto *const button = new HoverButton(parent);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(QLatin1String(caption));
+    button->setCaptionText(QLatin1String(caption));
+    button->setNormalImage(SkinImage::named("new_normal"));
+    button->setAlternateImage(SkinImage::named("new_down"));
+    button->setDisable(true);
+    return button;
+}
+
+UpRect raised(UpRect rect, int by)
+{
+    return {rect.x, rect.y + by, rect.width, rect.height};
+}
+
+} // namespace
+
+rightbarMacro::rightbarMacro(QWidget *parent, UpRect frame,
+                             const Action<CollapsiblePanel *> &noticeAction)
+    : FunctionListPanel(kLook, parent, frame, noticeAction),
+      MacroListscrollView(new Framed<QScrollArea>(this)),
+      btnNew(makeHeaderButton(this, "btnNew", "New")),
+      btnDelete(makeHeaderButton(this, "btnDelete", "Delete"))
+{
+    MacroListscrollView->setFrameShape(QFrame::NoFrame);
+    MacroListscrollView->setFocusPolicy(Qt::NoFocus);
+    useSkinScrollBars(*MacroListscrollView);
+    MacroListscrollView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list().resize(kListWidth, kListHeight);
+    MacroListscrollView->setWidget(&list());
+    refreshMacroList();
+    setContent(MacroListscrollView);
+}
+
+void rightbarMacro::refreshMacroList()
+{
+    list().clearAll();
+    for (unsigned slot = 0; slot < kMacroCount; ++slot) {
+        const QString name = nameOf(MacroAt(CurrentProfile(), slot));
+        if (name.isEmpty())
+            break;
+        list().AddString(QStringLiteral("   * ") + name);
+    }
+    list().update();
+    if (list().getCount() > kRowsThatFit)
+        list().resize(kListWidth, list().getCount() * kLook.rowHeight);
+}
+
+void rightbarMacro::setMacroSel(std::int32_t row)
+{
+    list().setcursel(row);
+    MacroListscrollView->ensureVisible(0, row * kLook.rowHeight + kLook.rowHeight / 2, 0,
+                                       kLook.rowHeight);
+}
+
+void rightbarMacro::setHiddenButton(bool hidden)
+{
+    btnNew->setHidden(hidden);
+    btnDelete->setHidden(hidden);
+}
+
+void rightbarMacro::ExpandView(bool expand)
+{
+    if (expand)
+        refreshMacroList();
+    const int by = expand ? kLook.panel.expanded.content.height : 0;
+    btnNew->setFrame(raised(kNew, by));
+    btnDelete->setFrame(raised(kDelete, by));
+    FunctionListPanel::ExpandView(expand);
+}
