@@ -10,7 +10,7 @@ namespace {
 
 struct RoleColour
 {
-    QPalette::ColorRole role;
+    QPalette::ColorRole role = QPalette::NoRole;
     QColor colour;
 };
 

@@ -81,6 +81,12 @@ void windowcontroll::refreshSetting()
         m_bottomContent->InitSetting();
 }
 
+void windowcontroll::refreshMacroList()
+{
+    if (m_rightContent && !bMinRightBar)
+        m_rightContent->refreshMacroList();
+}
+
 void windowcontroll::setMainViewApplyStatus(bool changed)
 {
     if (m_mainContent)

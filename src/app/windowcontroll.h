@@ -42,6 +42,8 @@ public:
     virtual void hideMiniBar() = 0;
     virtual void openMiniBar() = 0;
     virtual void closeMiniBar() = 0;
+    /// Lists the macros of the current profile.
+    virtual void refreshMacroList() = 0;
     /// Closes all panels, or opens one of them and selects there: a row, or for the tree a code.
     virtual void setAllWindowclose() = 0;
     virtual void setTreeSel(std::int32_t code) = 0;
@@ -78,6 +80,8 @@ public:
     /// Loads the left and the bottom bar anew, as far as they are open: a closed one does so when
     /// it opens.
     void refreshSetting();
+    /// The current profile's macros are others: an open right bar lists them anew.
+    void refreshMacroList();
     void setMainViewApplyStatus(bool changed);
     /// Has the profile colour lines drawn again.
     void refreshProfileColorBar();

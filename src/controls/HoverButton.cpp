@@ -1,11 +1,11 @@
 #include "controls/HoverButton.h"
 
+#include "controls/wholetext.h"
 #include "platform/numbers.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QHelpEvent>
-#include <QtWidgets/QToolTip>
 
 namespace {
 
@@ -14,13 +14,6 @@ constexpr int kCaptionMargin = 8; // clear of the lamps that light up in the pre
 constexpr int kDropFrameWidth = 2;
 constexpr QColor kDropFrame(255, 223, 128);
 constexpr float kDisabledCaption = 0.55F;
-
-/// A caption may hold anything, also what looks like markup: it is shown as it stands.
-QString asOneLine(const QString &text)
-{
-    return QStringLiteral("<p style='white-space:pre'>") + text.toHtmlEscaped() +
-           QStringLiteral("</p>");
-}
 
 /// Broad and bright, so that it shows beside the picture that is dragged.
 void drawDropFrame(Canvas &canvas)
@@ -100,7 +93,7 @@ void HoverButton::setDisable(bool disable)
 {
     // Disabling passes the keyboard on as the tab key would, and with it the frame that shows where
     // it is: not before a player has asked for that.
-    if (disable && hasFocus() && !m_focusFrame.isShown(*this))
+    if (disable && hasFocus() && !showsKeyboard())
         clearFocus();
     m_bEnableDisable = disable;
     setEnabled(!disable);
@@ -120,7 +113,7 @@ void HoverButton::drawRect(Canvas &canvas)
         colour.setAlphaF(kDisabledCaption);
     canvas.drawLine(m_caption, captionRect(canvas.bounds()), colour, TextAlign::Centre,
                     kCaptionSize);
-    if (m_focusFrame.isShown(*this))
+    if (showsKeyboard())
         canvas.outline(canvas.bounds(), kGold);
     if (m_isDropTarget)
         drawDropFrame(canvas);
@@ -188,11 +181,9 @@ bool HoverButton::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
         return ViewOf::event(event);
-    // A caption that had to be cut is shown whole.
-    const int space = captionRect({0, 0, width(), height()}).width;
-    const bool cut = QFontMetrics(systemFont(kCaptionSize)).horizontalAdvance(m_caption) > space;
-    const QString text = cut ? asOneLine(m_caption) : toolTip();
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text, this);
+    showWholeText(*static_cast<QHelpEvent *>(event), *this, m_caption,
+                  QFontMetrics(systemFont(kCaptionSize)),
+                  captionRect({0, 0, width(), height()}).width);
     return true;
 }
 

@@ -41,6 +41,9 @@ public:
     /// A disabled button ignores clicks, right clicks and drops.
     void setDisable(bool disable);
 
+    /// Whether it shows that it has the keyboard: a player has brought it here by key.
+    bool showsKeyboard() const { return m_focusFrame.isShown(*this); }
+
     void setTag(int tag) { m_tag = tag; }
     int tag() const { return m_tag; }
 

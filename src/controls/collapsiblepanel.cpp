@@ -21,6 +21,8 @@ CollapsiblePanel::CollapsiblePanel(const PanelLook &look, QWidget *parent, UpRec
       _noticeAction(noticeAction)
 {
     setFrame(frame);
+    // A press on a panel is never one on the window behind, which it would drag.
+    setAttribute(Qt::WA_NoMousePropagation);
 }
 
 HoverButton *CollapsiblePanel::AddCheckButton(UpRect frame, const Action<HoverButton *> &setAction)
@@ -78,15 +80,10 @@ void CollapsiblePanel::drawRect(Canvas &canvas)
         canvas.fill(canvas.bounds(), Qt::black);
     canvas.fill(strip, kStrip);
     canvas.fill({strip.x, strip.y + strip.height - 1, strip.width, 1}, kStripLit);
-    canvas.drawLine(
+    canvas.DrawMyTextwithColor(
         QLatin1String(m_look.title),
         {width() - kTitleLeft, top - m_look.titleDepth, width() - 2 * kStripMargin, kTitleHeight},
         kWhite, TextAlign::Left, kTitleSize);
-}
-
-void CollapsiblePanel::mouseDown(const ViewMouseEvent & /*event*/)
-{
-    // Kept from the window behind, which a press would begin to drag.
 }
 
 void CollapsiblePanel::mouseUp(const ViewMouseEvent &event)

@@ -57,7 +57,6 @@ protected:
     virtual void ExpandView(bool expand);
 
     void drawRect(Canvas &canvas) override;
-    void mouseDown(const ViewMouseEvent &event) override;
     void mouseUp(const ViewMouseEvent &event) override;
 
 private:

@@ -1,7 +1,10 @@
 #include "controls/pngListBox.h"
 
 #include "controls/rowdrag.h"
+#include "controls/wholetext.h"
 #include "platform/systemlog.h"
+
+#include <QtGui/QHelpEvent>
 
 #include <algorithm>
 
@@ -107,6 +110,13 @@ UpRect pngListBox::strip(int row) const
     return {0, height() - (row + 1) * m_ItemHeight, width(), m_ItemHeight};
 }
 
+/// -1 where there is no row.
+int pngListBox::rowAt(int fromTop) const
+{
+    const int row = fromTop / m_ItemHeight;
+    return fromTop >= 0 && row < getCount() ? row : -1;
+}
+
 void pngListBox::drawRect(Canvas &canvas)
 {
     canvas.fill(canvas.bounds(), Qt::black);
@@ -120,6 +130,16 @@ void pngListBox::drawRect(Canvas &canvas)
     }
     if (m_focusFrame.isShown(*this))
         canvas.outline(canvas.bounds(), kGold);
+}
+
+bool pngListBox::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return View::event(event);
+    const auto &help = *static_cast<QHelpEvent *>(event);
+    showWholeText(help, *this, stringAt(rowAt(help.y())), QFontMetrics(systemFont(kTextSize)),
+                  width());
+    return true;
 }
 
 void pngListBox::focusInEvent(QFocusEvent *event)
@@ -136,9 +156,10 @@ void pngListBox::mouseDown(const ViewMouseEvent &event)
         return;
     }
     m_pressedAt = event.event->position().toPoint();
+    m_isDragged = false;
     const int fromTop = height() - event.position.y;
-    const int row = fromTop / m_ItemHeight;
-    if (fromTop >= 0 && row < getCount())
+    const int row = rowAt(fromTop);
+    if (row >= 0)
         setcursel(row);
     update();
 }
@@ -146,17 +167,21 @@ void pngListBox::mouseDown(const ViewMouseEvent &event)
 void pngListBox::mouseUp(const ViewMouseEvent &event)
 {
     m_releasedAt = event.event->timestamp();
-    changeAction.send(this);
+    // The toolkit may send the release that has ended a drag here too.
+    if (!m_isDragged)
+        changeAction.send(this);
 }
 
 void pngListBox::mouseDragged(const ViewMouseEvent &event)
 {
-    if (!bEnableDragDrop || !hasFunctions() ||
+    if (!bEnableDragDrop || !hasFunctions() || m_isDragged ||
         !isDrag(m_pressedAt, event.event->position().toPoint()))
         return;
-    if (_currentpos >= 0 && _currentpos < getCount())
-        dragRow(*this, UpHost(height()).down(strip(_currentpos)), m_pressedAt,
-                QString::number(getfunctionid(_currentpos)));
+    if (_currentpos < 0 || _currentpos >= getCount())
+        return;
+    m_isDragged = true;
+    dragRow(*this, UpHost(height()).down(strip(_currentpos)), m_pressedAt,
+            QString::number(getfunctionid(_currentpos)));
 }
 
 void pngListBox::keyDown(QKeyEvent *event)

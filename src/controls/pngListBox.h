@@ -68,9 +68,11 @@ protected:
     void mouseDragged(const ViewMouseEvent &event) override;
     void keyDown(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     UpRect strip(int row) const;
+    int rowAt(int fromTop) const;
     bool hasFunctions() const { return _tag >= kCpiListTag && _tag <= kMacroListTag; }
     void windowKeyChange();
     void moveSelection(int by);
@@ -94,5 +96,6 @@ private:
     KeyWindowWatch m_keyWatch;
     FocusFrame m_focusFrame;
     quint64 m_releasedAt = 0;
-    QPoint m_pressedAt; ///< where the left button went down, for the drag threshold
+    bool m_isDragged = false; ///< a row was dragged since the last press
+    QPoint m_pressedAt;       ///< where the left button went down, for the drag threshold
 };

@@ -8,6 +8,7 @@ namespace {
 
 constexpr qreal kOpacity = 0.5;
 
+/// `strip` lies within `source`: outside there is nothing to take a picture of.
 QPixmap pictureOf(QWidget &source, QRect strip)
 {
     const QPixmap row = source.grab(strip);
@@ -27,12 +28,13 @@ QPixmap pictureOf(QWidget &source, QRect strip)
 
 void dragRow(QWidget &source, QRect strip, QPoint pressedAt, const QString &text)
 {
+    const QRect shown = strip & source.rect();
     auto *const data = new QMimeData;
     data->setText(text);
     auto *const drag = new QDrag(&source); // the toolkit deletes it when the drag is over
     drag->setMimeData(data);
-    drag->setPixmap(pictureOf(source, strip));
-    drag->setHotSpot(pressedAt - strip.topLeft());
+    drag->setPixmap(pictureOf(source, shown));
+    drag->setHotSpot(pressedAt - shown.topLeft());
     drag->exec(Qt::CopyAction);
 }
 

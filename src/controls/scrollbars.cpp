@@ -98,10 +98,10 @@ private:
 
     static int sliderLength(const QStyleOptionSlider &bar, int whole)
     {
-        const qint64 range = static_cast<qint64>(bar.maximum) - bar.minimum;
+        const qint64 range = qint64{bar.maximum} - bar.minimum;
         if (range <= 0)
             return whole;
-        const auto share = static_cast<int>(bar.pageStep * whole / (range + bar.pageStep));
+        const auto share = static_cast<int>(qint64{bar.pageStep} * whole / (range + bar.pageStep));
         return std::clamp(share, std::min(kShortestSlider, whole), whole);
     }
 };

@@ -10,11 +10,10 @@ GameCommandItem::Pointer GameCommandItem::rootItem(unsigned category)
     const auto categories = functions::gameCategories();
     if (category >= categories.size())
         return nullptr;
-    const auto row =
+    ::rootItem =
         std::make_shared<GameCommandItem>(QLatin1String(categories[category].name), nullptr);
-    row->setIndexId(category);
-    ::rootItem = row;
-    return row;
+    ::rootItem->setIndexId(category);
+    return ::rootItem;
 }
 
 GameCommandItem::GameCommandItem(QString strTilte, GameCommandItem *parentItem)

@@ -2,13 +2,13 @@
 
 #include "controls/rowdrag.h"
 #include "controls/scrollbars.h"
+#include "controls/wholetext.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
-#include <QtWidgets/QToolTip>
 
 #include <utility>
 
@@ -50,6 +50,14 @@ void drawArrow(QPainter &painter, QPointF middle, bool open)
     painter.restore();
 }
 
+/// A line of one point just inside `rect`.
+void outline(QPainter &painter, QRect rect)
+{
+    painter.setPen(kGold);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
 } // namespace
 
 MyOutlineView::MyOutlineView(QWidget *parent) : Framed(parent)
@@ -79,12 +87,18 @@ void MyOutlineView::setDataSource(const std::shared_ptr<OutlineDataSource> &sour
     setColumnWidth(0, kColumnWidth);
 }
 
-QModelIndex MyOutlineView::findIndex(std::ptrdiff_t index) const
+template <class Matches>
+QModelIndex MyOutlineView::firstRow(Matches matches) const
 {
     QModelIndex row = model() ? model()->index(0, 0) : QModelIndex();
-    while (row.isValid() && OutlineModel::itemAt(row)->getIndexId() != index)
+    while (row.isValid() && !matches(*OutlineModel::itemAt(row)))
         row = indexBelow(row);
     return row;
+}
+
+QModelIndex MyOutlineView::findIndex(std::ptrdiff_t index) const
+{
+    return firstRow([=](const GameCommandItem &item) { return item.getIndexId() == index; });
 }
 
 GameCommandItem *MyOutlineView::findItembyIndex(std::ptrdiff_t index) const
@@ -111,12 +125,11 @@ void MyOutlineView::collapseItembyIndex(std::ptrdiff_t index)
 
 void MyOutlineView::setSelectedItem(const GameCommandItem *item)
 {
-    if (!item)
+    const QModelIndex row = firstRow([=](const GameCommandItem &at) { return &at == item; });
+    if (!row.isValid())
         return;
-    if (const QModelIndex row = findIndex(item->getIndexId()); row.isValid()) {
-        setCurrentIndex(row);
-        scrollTo(row);
-    }
+    setCurrentIndex(row);
+    scrollTo(row);
 }
 
 QRect MyOutlineView::stripOf(const QModelIndex &index) const
@@ -140,6 +153,9 @@ void MyOutlineView::drawRow(QPainter *painter, const QStyleOptionViewItem &optio
 {
     if (selectionModel()->isSelected(index))
         painter->fillRect(option.rect, kHighlight);
+    // The view has no ring; a player who came by key sees which row the keys go from.
+    if (index == currentIndex() && m_focusFrame.isShown(*this))
+        outline(*painter, stripOf(index));
     const QRect place = textRect(index);
     if (model()->hasChildren(index))
         drawArrow(*painter,
@@ -159,8 +175,12 @@ bool MyOutlineView::isOnArrow(const QModelIndex &index, QPoint position) const
 
 void MyOutlineView::toggle(const QModelIndex &index)
 {
-    if (model()->hasChildren(index))
-        setExpanded(index, !isExpanded(index));
+    if (!model()->hasChildren(index))
+        return;
+    setExpanded(index, !isExpanded(index));
+    // The keys do not go on from a row that has gone out of sight.
+    if (!isExpanded(index) && currentIndex().parent() == index)
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
 }
 
 void MyOutlineView::choose(const QModelIndex &index)
@@ -169,6 +189,12 @@ void MyOutlineView::choose(const QModelIndex &index)
     m_shouldSelect.send(OutlineModel::itemAt(index));
     if (alive)
         setCurrentIndex(index);
+}
+
+void MyOutlineView::focusInEvent(QFocusEvent *event)
+{
+    m_focusFrame.focusIn(*event);
+    Framed::focusInEvent(event);
 }
 
 void MyOutlineView::mousePressEvent(QMouseEvent *event)
@@ -183,7 +209,8 @@ void MyOutlineView::mousePressEvent(QMouseEvent *event)
 
 void MyOutlineView::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_pressed.isValid() || !isDrag(m_pressedAt, event->position().toPoint()))
+    if (!(event->buttons() & Qt::LeftButton) || !m_pressed.isValid() ||
+        !isDrag(m_pressedAt, event->position().toPoint()))
         return;
     const QModelIndex dragged = std::exchange(m_pressed, QModelIndex());
     const std::unique_ptr<QMimeData> carried(model()->mimeData({dragged}));
@@ -216,6 +243,10 @@ void MyOutlineView::keyPressEvent(QKeyEvent *event)
             choose(before);
         return;
     }
+    // The row that the view begins with is not selected yet.
+    const bool isFirst = before.isValid() && !selectionModel()->hasSelection();
+    if (isFirst && (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up))
+        return choose(before);
     Framed::keyPressEvent(event);
     if (const QModelIndex now = currentIndex(); now.isValid() && now != before)
         m_shouldSelect.send(OutlineModel::itemAt(now));
@@ -225,15 +256,8 @@ bool MyOutlineView::viewportEvent(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
         return Framed::viewportEvent(event);
-    showWholeText(*static_cast<QHelpEvent *>(event));
+    const auto &help = *static_cast<QHelpEvent *>(event);
+    const QModelIndex row = indexAt(help.pos());
+    showWholeText(help, *viewport(), row.data().toString(), fontMetrics(), textRect(row).width());
     return true;
-}
-
-/// A name that had to be cut is shown whole.
-void MyOutlineView::showWholeText(const QHelpEvent &event)
-{
-    const QModelIndex row = indexAt(event.pos());
-    const QString text = row.data().toString();
-    const bool cut = row.isValid() && fontMetrics().horizontalAdvance(text) > textRect(row).width();
-    QToolTip::showText(event.globalPos(), cut ? text : QString(), viewport());
 }

@@ -2,11 +2,10 @@
 
 #include "functions/outlinemodel.h"
 #include "platform/action.h"
+#include "platform/focusframe.h"
 #include "platform/view.h"
 
 #include <QtWidgets/QTreeView>
-
-class QHelpEvent;
 
 /// An outline of game commands in the skin's look. A click selects, on its release, so that a row
 /// can be dragged away without being chosen; the arrow keys select too, and Return selects the same
@@ -29,12 +28,14 @@ public:
     void setSelectedItembyIndex(std::ptrdiff_t index);
     void expandItembyIndex(std::ptrdiff_t index);
     void collapseItembyIndex(std::ptrdiff_t index);
-    /// Selects an item's row in place of any other and scrolls it into view; nothing without a row.
+    /// Selects an item's row in place of any other and scrolls it into view; nothing for an item
+    /// that has none.
     void setSelectedItem(const GameCommandItem *item);
 
 protected:
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
                  const QModelIndex &index) const override;
+    void focusInEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -43,15 +44,17 @@ protected:
     bool viewportEvent(QEvent *event) override;
 
 private:
+    template <class Matches>
+    QModelIndex firstRow(Matches matches) const;
     QModelIndex findIndex(std::ptrdiff_t index) const;
     QRect textRect(const QModelIndex &index) const;
     QRect stripOf(const QModelIndex &index) const;
     bool isOnArrow(const QModelIndex &index, QPoint position) const;
     void toggle(const QModelIndex &index);
     void choose(const QModelIndex &index);
-    void showWholeText(const QHelpEvent &event);
 
     Action<GameCommandItem *> m_shouldSelect;
+    FocusFrame m_focusFrame;
     QModelIndex m_pressed; ///< the row that is being clicked or dragged
     QPoint m_pressedAt;
 };

@@ -1,7 +1,7 @@
 #include "macro/rightbarMacro.h"
 
 #include "controls/scrollbars.h"
-#include "model/fixedtext.h"
+#include "functions/functioncodes.h"
 
 #include <QtWidgets/QScrollArea>
 
@@ -25,12 +25,6 @@ constexpr int kRowsThatFit = 11;
 /// The buttons stand in the header, whose lower edge moves with the panel's height.
 constexpr UpRect kNew{10, 0, 74, 27};
 constexpr UpRect kDelete{90, 0, 74, 27};
-
-QString nameOf(const MacroInfo &macro)
-{
-    const auto name = GetText(macro.MACRO_NAME);
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-}
 
 HoverButton *makeHeaderButton(QWidget *parent, const char *name, const char *caption)
 {
@@ -72,7 +66,8 @@ void rightbarMacro::refreshMacroList()
 {
     list().clearAll();
     for (unsigned slot = 0; slot < kMacroCount; ++slot) {
-        const QString name = nameOf(MacroAt(CurrentProfile(), slot));
+        const QString name =
+            functions::caption(functions::kFirstMacroCode + slot, CurrentProfile());
         if (name.isEmpty())
             break;
         list().AddString(QStringLiteral("   * ") + name);

@@ -104,6 +104,8 @@ void MainView::initButtonSetting()
         slot->setDisable(gameMode);
         SetButtonCaption(slot, CurrentProfile().BUTTON[k]);
     }
+    if (pWindowControll)
+        pWindowControll->refreshMacroList();
 }
 
 void MainView::DisplayButtonListBox(int buttonid)

@@ -4,6 +4,7 @@
 #include "platform/systemlog.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -165,11 +166,13 @@ void RightView::hideQuietly(QWidget &part)
 
 void RightView::hideMiniBar()
 {
-    m_toggleHadKeyboard = m_toggleHadKeyboard || toggleButton().hasFocus();
+    if (toggleButton().hasFocus())
+        m_toggleKeyboard =
+            toggleButton().showsKeyboard() ? Qt::TabFocusReason : Qt::OtherFocusReason;
     hideQuietly(toggleButton());
     m_macroHidden = true;
-    pMacroView->setHiddenButton(true);
     hideQuietly(*pMacroView);
+    pMacroView->setHiddenButton(true);
 }
 
 void RightView::openMiniBar()
@@ -191,9 +194,9 @@ void RightView::showToggleAt(UpPoint origin)
     const UpRect frame = toggleButton().frame();
     toggleButton().setFrame({origin.x, origin.y, frame.width, frame.height});
     toggleButton().show();
-    if (m_toggleHadKeyboard)
-        toggleButton().setFocus(Qt::TabFocusReason);
-    m_toggleHadKeyboard = false;
+    const auto keyboard = std::exchange(m_toggleKeyboard, {});
+    if (keyboard && !window()->focusWidget())
+        toggleButton().setFocus(*keyboard);
 }
 
 /// Null closes all.
@@ -202,6 +205,11 @@ void RightView::show(CollapsiblePanel *panel)
     expandOnly(panel);
     manageViewPos();
     SetMaxToggleImage();
+}
+
+void RightView::refreshMacroList()
+{
+    pMacroView->refreshMacroList();
 }
 
 void RightView::setAllWindowclose()

@@ -7,6 +7,7 @@
 #include "panels/rightbarProfile.h"
 
 #include <array>
+#include <optional>
 
 /// The content of the right bar: the four panels in which button functions are chosen, one below
 /// another. A player who expands one collapses the others.
@@ -21,6 +22,7 @@ public:
     void hideMiniBar() override;
     void openMiniBar() override;
     void closeMiniBar() override;
+    void refreshMacroList() override;
     void setAllWindowclose() override;
     void setTreeSel(std::int32_t code) override;
     void setDPISel(std::int32_t row) override;
@@ -54,6 +56,6 @@ private:
     rightbarDPI *pDPIView = nullptr;
     rightbarProfile *pProfileView = nullptr;
     rightbarMacro *pMacroView = nullptr;
-    bool m_toggleHadKeyboard = false;
+    std::optional<Qt::FocusReason> m_toggleKeyboard; ///< why the hidden handle had the keyboard
     bool m_macroHidden = false; ///< while the bar slides, and as long as it is closed
 };

@@ -30,6 +30,7 @@ struct FakePanels : SidePanels
     void hideMiniBar() override { say(QStringLiteral("hideMiniBar")); }
     void openMiniBar() override { say(QStringLiteral("openMiniBar")); }
     void closeMiniBar() override { say(QStringLiteral("closeMiniBar")); }
+    void refreshMacroList() override { say(QStringLiteral("refreshMacroList")); }
     void setAllWindowclose() override { say(QStringLiteral("setAllWindowclose")); }
     void setTreeSel(std::int32_t code) override { say(QStringLiteral("setTreeSel %1").arg(code)); }
     void setDPISel(std::int32_t row) override { say(QStringLiteral("setDPISel %1").arg(row)); }

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void aDragCarriesTheCodeOfTheSelectedRow();
     void nothingIsDragged_data();
     void nothingIsDragged();
+    void theReleaseThatEndsADragChoosesNothing();
+    void aPressStartsOneDragAtMost();
     void theDragPictureIsTheRowAtHalfOpacity();
     void theRowIsHeldWhereItWasPressed();
 };
@@ -33,13 +35,17 @@ struct DragStage : ListStage
     }
 
     /// Presses `from` the top of the list, moves by `way`, and gives the drag that this started.
-    /// The move is sent directly: delivered by the window, it would be over, and the drag deleted.
     QDrag *drag(int from, QPoint way)
     {
         const QPoint start(20, from);
         pointer::press(list, start);
-        QMouseEvent move(QEvent::MouseMove, start + way, list.mapToGlobal(start + way),
-                         Qt::NoButton, Qt::LeftButton, {});
+        return moveTo(start + way);
+    }
+    /// The move is sent directly: delivered by the window, it would be over, and the drag deleted.
+    QDrag *moveTo(QPoint there)
+    {
+        QMouseEvent move(QEvent::MouseMove, there, list.mapToGlobal(there), Qt::NoButton,
+                         Qt::LeftButton, {});
         QApplication::sendEvent(&list, &move);
         return list.findChild<QDrag *>();
     }
@@ -98,6 +104,26 @@ void tst_pnglistboxdrag::nothingIsDragged()
     DragStage stage;
     prepare(stage.list);
     QVERIFY(!stage.drag(fromTop, way));
+}
+
+void tst_pnglistboxdrag::theReleaseThatEndsADragChoosesNothing()
+{
+    DragStage stage;
+    QVERIFY(stage.drag(10, {0, 15}));
+    pointer::release(stage.list, {20, 25});
+    QCOMPARE(stage.changes.count(), std::size_t{0});
+    pointer::click(stage.list, {20, 30});
+    QCOMPARE(stage.changes.count(), std::size_t{1});
+}
+
+void tst_pnglistboxdrag::aPressStartsOneDragAtMost()
+{
+    DragStage stage;
+    QVERIFY(stage.drag(10, {0, 15}));
+    QTRY_VERIFY(!stage.list.findChild<QDrag *>());
+    QVERIFY(!stage.moveTo({20, 50}));
+    pointer::release(stage.list, {20, 50});
+    QVERIFY(stage.drag(50, {0, 15}));
 }
 
 void tst_pnglistboxdrag::theDragPictureIsTheRowAtHalfOpacity()
