@@ -4,6 +4,9 @@
 #include "functions/functioncodes.h"
 
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+
+#include <algorithm>
 
 namespace {
 
@@ -73,8 +76,22 @@ void rightbarMacro::refreshMacroList()
         list().AddString(QStringLiteral("   * ") + name);
     }
     list().update();
+    // On purpose it never becomes lower again.
     if (list().getCount() > kRowsThatFit)
         list().resize(kListWidth, list().getCount() * kLook.rowHeight);
+    keepToRows();
+}
+
+/// Another profile may have fewer macros than there were: none is selected beyond them, and they
+/// are not scrolled out of sight.
+void rightbarMacro::keepToRows()
+{
+    if (list().getcursel() >= list().getCount())
+        list().setcursel(-1);
+    const int rows = list().getCount() * kLook.rowHeight;
+    const int last = std::max(0, rows - MacroListscrollView->viewport()->height());
+    QScrollBar *const bar = MacroListscrollView->verticalScrollBar();
+    bar->setValue(std::min(bar->value(), last));
 }
 
 void rightbarMacro::setMacroSel(std::int32_t row)

@@ -27,6 +27,8 @@ protected:
     void ExpandView(bool expand) override;
 
 private:
+    void keepToRows();
+
     Framed<QScrollArea> *MacroListscrollView;
     HoverButton *btnNew;
     HoverButton *btnDelete;
