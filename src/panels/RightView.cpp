@@ -127,7 +127,8 @@ void RightView::manageViewPos()
 
 void RightView::ResizeComponent()
 {
-    stack(false);
+    // A notice of the slide may come late, when a panel is expanded already.
+    stack(!m_isMiniBarHidden);
 }
 
 /// Hangs the panels one below another from a fixed edge; while the bar slides all are as high as
@@ -149,7 +150,7 @@ void RightView::placePanel(CollapsiblePanel &panel, int y, int height)
 {
     const int width = std::max(0, window()->width() - kRightMargin);
     panel.setFrame({0, y, width, height});
-    if (width == 0 || (&panel == pMacroView && m_macroHidden))
+    if (width == 0 || (&panel == pMacroView && m_isMiniBarHidden))
         hideQuietly(panel);
     else
         panel.show();
@@ -170,7 +171,7 @@ void RightView::hideMiniBar()
         m_toggleKeyboard =
             toggleButton().showsKeyboard() ? Qt::TabFocusReason : Qt::OtherFocusReason;
     hideQuietly(toggleButton());
-    m_macroHidden = true;
+    m_isMiniBarHidden = true;
     hideQuietly(*pMacroView);
     pMacroView->setHiddenButton(true);
 }
@@ -178,7 +179,7 @@ void RightView::hideMiniBar()
 void RightView::openMiniBar()
 {
     showToggleAt(kToggleOpen);
-    m_macroHidden = false;
+    m_isMiniBarHidden = false;
     pMacroView->setHiddenButton(false);
     // A header may have been clicked while the bar was sliding.
     manageViewPos();

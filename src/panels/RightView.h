@@ -57,5 +57,5 @@ private:
     rightbarProfile *pProfileView = nullptr;
     rightbarMacro *pMacroView = nullptr;
     std::optional<Qt::FocusReason> m_toggleKeyboard; ///< why the hidden handle had the keyboard
-    bool m_macroHidden = false; ///< while the bar slides, and as long as it is closed
+    bool m_isMiniBarHidden = false; ///< while the bar slides, and as long as it is closed
 };

@@ -4,6 +4,7 @@ import plistlib
 import signal
 
 from settingsfile import changed, factory_values, rich_settings
+from sidepanels import CPI, HANDLE, MACROS, OPEN_SIZE, PROFILES, RIGHT_BAR, TREE, SidePanels
 from stage import LIST_TITLE, MAIN_TITLE, Stage, wait_for
 
 # On which scale the pictures are taken, with a screen that has room for all bars.
@@ -11,8 +12,11 @@ SCREENS = {1: "1280x1024", 2: "2400x1800"}
 # What the bars reach out of the main window when they are open: left, right, below.
 MARGINS = (202, 200, 101)
 # Each bar's title, the place of its handle from the main window's upper left corner, its open size.
-BARS = (("Mouse Properties", (-8, 320), (202, 452)), ("Button Functions", (662, 320), (200, 461)),
+BARS = (("Mouse Properties", (-8, 320), (202, 452)), (RIGHT_BAR, HANDLE, OPEN_SIZE),
         ("Illumination Settings", (327, 648), (466, 101)))
+# Each panel of the right bar and the row that is chosen in it.
+PANELS = {"panel-cpi": (CPI, 2), "panel-profiles": (PROFILES, 11), "panel-macros": (MACROS, 4),
+          "panel-commands": (TREE, 8)}
 MENUS = {"menu-profile": ("BtnProfileMenu",), "menu-polling-rate": ("BtnToolsMenu", 0),
          "menu-lift-distance": ("BtnToolsMenu", 1), "menu-help": ("BtnHelpMenu",)}
 PROGRESS = "Applying profile to on-board memory..."
@@ -50,10 +54,6 @@ class Gallery:
         wait_for(settled, "a screen that does not change")
         self.stage.screenshot(self.pictures / f"{name}-at-{self.stage.scale}x.png", self.box())
 
-    def at(self, point):
-        left, top, _, _ = self.stage.frame(MAIN_TITLE)
-        return tuple(start + self.stage.scale * length for start, length in zip((left, top), point))
-
     def take_all(self):
         self.take("window")
         self.take_list()
@@ -63,6 +63,7 @@ class Gallery:
         self.take_question()
         self.take_progress()
         self.take_bars()
+        self.take_panels()
 
     def take_list(self):
         self.stage.click_control("Button5", button=3)
@@ -111,12 +112,24 @@ class Gallery:
         self.stage.wait_for_no_window(PROGRESS)
 
     def take_bars(self):
-        for title, handle, size in BARS:
-            self.stage.click(*self.at(handle))
-            whole = tuple(self.stage.scale * length for length in size)
-            wait_for(lambda: self.stage.frame(title)[2:] == whole, f"{title!r} open")
+        for bar in BARS:
+            self.stage.open_bar(*bar)
         self.stage.move_to(0, 0)
         self.take("bars")
+
+    def take_panels(self):
+        panels = SidePanels(self.stage)
+        for name, (panel, row) in PANELS.items():
+            panels.expand(panel)
+            if panel == TREE:
+                panels.open_category(0)
+            panels.choose(panel, row)
+            self.stage.move_to(0, 0)
+            self.take(name)
+        drag = panels.begin_drag(TREE, 5)
+        drag.move_to(*self.stage.middle_of("Button9"))
+        self.take("drag")
+        drag.release()
 
 
 def take_pictures(settings, programs, tools, pictures):

@@ -201,6 +201,11 @@ class Stage:
         values = dict(line.split("=") for line in text.split())
         return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
+    def windows_of(self, window_class):
+        """The ids of a program's visible windows."""
+        found = self.output("xdotool", "search", "--onlyvisible", "--class", window_class)
+        return set(found.split())
+
     def active_title(self):
         return self.output("xdotool", "getactivewindow", "getwindowname").strip()
 
@@ -217,14 +222,20 @@ class Stage:
         self.move_to(x, y)
         self.output("xdotool", "click", str(button))
 
+    def press(self):
+        self.output("xdotool", "mousedown", "1")
+
+    def release(self):
+        self.output("xdotool", "mouseup", "1")
+
     def drag(self, start, end):
         """Presses at one point, moves in small steps to the other, releases."""
         self.move_to(*start)
-        self.output("xdotool", "mousedown", "1")
+        self.press()
         steps = 12
         for step in range(1, steps + 1):
             self.move_to(*(s + (e - s) * step // steps for s, e in zip(start, end)))
-        self.output("xdotool", "mouseup", "1")
+        self.release()
 
     def key(self, name):
         self.output("xdotool", "key", name)
@@ -236,15 +247,32 @@ class Stage:
         self.wait_for_active(MAIN_TITLE)
         wait_for(lambda: any(self.pixels(self.control_box("ButtonApply"))), "a painted window")
 
+    def at(self, point):
+        """On the screen, what is given from the window's upper left corner."""
+        left, top, _, _ = self.frame(MAIN_TITLE)
+        return tuple(start + self.scale * length for start, length in zip((left, top), point))
+
+    def open_bar(self, title, handle, size):
+        """Opens a bar by its handle, given like its size as at scale 1."""
+        self.click(*self.at(handle))
+        self.wait_for_size(title, size)
+
+    def wait_for_size(self, title, size):
+        whole = tuple(self.scale * length for length in size)
+        wait_for(lambda: self.frame(title)[2:] == whole, f"{title!r} open")
+
     def control_box(self, name):
         """A control's (x, y, width, height) on the screen, y downwards."""
         left, top, _, _ = self.frame(MAIN_TITLE)
         x, y, width, height = (self.scale * length for length in CONTROLS[name])
         return left + x, top + self.scale * VIEW_HEIGHT - y - height, width, height
 
-    def click_control(self, name, button=1):
+    def middle_of(self, name):
         x, y, width, height = self.control_box(name)
-        self.click(x + width // 2, y + height // 2, button)
+        return x + width // 2, y + height // 2
+
+    def click_control(self, name, button=1):
+        self.click(*self.middle_of(name), button)
 
     def click_list_row(self, row):
         x, y, width, _ = self.frame(LIST_TITLE)
@@ -255,7 +283,7 @@ class Stage:
 
     def utility_windows(self):
         """The ids of the visible windows, menus among them."""
-        return set(self.output("xdotool", "search", "--onlyvisible", "--class", "kyr").split())
+        return self.windows_of("kyr")
 
     def click_menu_row(self, menu, row):
         """Clicks a row of the menu with that window id."""

@@ -4,11 +4,13 @@ import pathlib
 import sys
 import unittest
 
+from rowdrag import RowDrag
 from stage import Stage, wait_for
 
 TOOLS = pathlib.Path(sys.argv.pop(1)).resolve()
 TITLE = "Drag Stage"
 ROW = 20
+LIST_WIDTH = 100
 
 
 class Drag(unittest.TestCase):
@@ -20,23 +22,8 @@ class Drag(unittest.TestCase):
         self.left, self.top, _, _ = self.stage.frame(TITLE)
 
     def drag_row(self, row, target_x):
-        """Drags a macro row onto a button as a person does, who sees its picture come along."""
-        start = self.left + 50, self.top + row * ROW + ROW // 2
-        end = self.left + target_x, self.top + 150
-        windows = self.windows()
-        self.stage.move_to(*start)
-        self.stage.output("xdotool", "mousedown", "1")
-        self.stage.move_to(start[0], start[1] + 2 * ROW)
-        picture = wait_for(lambda: self.windows() - windows, "the row's picture").pop()
-        self.stage.move_to(*end)
-        arrived = end[0] - (start[0] - self.left), end[1] - ROW // 2
-        wait_for(lambda: self.stage.frame_of(picture)[:2] == arrived, "the picture on the button")
-        self.stage.output("xdotool", "mouseup", "1")
-        wait_for(lambda: self.windows() == windows, "the end of the drag")
-
-    def windows(self):
-        return set(self.stage.output("xdotool", "search", "--onlyvisible", "--class",
-                                     "dragstage").split())
+        box = self.left, self.top + row * ROW, LIST_WIDTH, ROW
+        RowDrag(self.stage, box, of="dragstage").drop_at(self.left + target_x, self.top + 150)
 
     def test_the_third_macro_row_carries_258(self):
         self.drag_row(2, 50)

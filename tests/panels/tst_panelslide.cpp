@@ -17,6 +17,7 @@ private Q_SLOTS:
     void aReopenedBarHasAllPanelsCollapsed();
     void aHeaderClickedUnderWayIsExpandedOnceTheBarStands_data();
     void aHeaderClickedUnderWayIsExpandedOnceTheBarStands();
+    void aSizeNoticeThatComesLateLeavesAPanelExpanded();
     void theHandleIsThatOfAnOpenBarAfterAButtonsFunctionIsShown_data();
     void theHandleIsThatOfAnOpenBarAfterAButtonsFunctionIsShown();
 };
@@ -169,6 +170,18 @@ void tst_panelslide::aHeaderClickedUnderWayIsExpandedOnceTheBarStands()
     QCOMPARE(stage.expanded(), std::vector{id});
     QTEST(placeText(stage.panel(id)), "place");
     QCOMPARE(placeText(stage.panel(PanelId::Macro)), QStringLiteral("0,46,177,50"));
+}
+
+void tst_panelslide::aSizeNoticeThatComesLateLeavesAPanelExpanded()
+{
+    PanelsStage stage;
+    stage.openAt(PanelId::Cpi);
+    const QStringList places = stage.places();
+    const UpRect open = stage.right().frame();
+    stage.right().setFrame({open.x, open.y, open.width - 1, open.height});
+    QCOMPARE(placeText(stage.panel(PanelId::Cpi)), QStringLiteral("0,126,176,250"));
+    stage.right().setFrame(open);
+    QCOMPARE(stage.places(), places);
 }
 
 void tst_panelslide::theHandleIsThatOfAnOpenBarAfterAButtonsFunctionIsShown_data()
