@@ -6,7 +6,16 @@
 
 namespace {
 
-void startToWindow(benchmark::State &state, const char *program, WindowClock::Until until)
+struct Program
+{
+    const char *path;
+    unsigned windows;
+};
+
+constexpr Program kBare{BARE_WINDOW, 1};
+constexpr Program kUtility{KYRGM, 4}; // with its three bars
+
+void startToWindow(benchmark::State &state, const Program *program, WindowClock::Until until)
 {
     WindowClock clock;
     if (!clock.isReady()) {
@@ -15,16 +24,16 @@ void startToWindow(benchmark::State &state, const char *program, WindowClock::Un
     }
     double resident = 0;
     while (state.KeepRunning()) {
-        const auto result = clock.measure(program, until);
+        const auto result = clock.measure(program->path, until, program->windows);
         state.SetIterationTime(result.milliseconds / 1000);
         resident = static_cast<double>(result.residentKib);
     }
     state.counters["resident_KiB"] = resident;
 }
 
-void measure(const char *name, const char *program, WindowClock::Until until)
+void measure(const char *name, const Program &program, WindowClock::Until until)
 {
-    benchmark::RegisterBenchmark(name, startToWindow, program, until)
+    benchmark::RegisterBenchmark(name, startToWindow, &program, until)
         ->UseManualTime()
         ->Iterations(1)
         ->Repetitions(15)
@@ -37,10 +46,10 @@ void measure(const char *name, const char *program, WindowClock::Until until)
 int main(int argc, char **argv)
 {
     using Until = WindowClock::Until;
-    measure("bareWindow/mapped", BARE_WINDOW, Until::Mapped);
-    measure("KyrGM/mapped", KYRGM, Until::Mapped);
-    measure("bareWindow/painted", BARE_WINDOW, Until::Painted);
-    measure("KyrGM/painted", KYRGM, Until::Painted);
+    measure("bareWindow/mapped", kBare, Until::Mapped);
+    measure("KyrGM/mapped", kUtility, Until::Mapped);
+    measure("bareWindow/painted", kBare, Until::Painted);
+    measure("KyrGM/painted", kUtility, Until::Painted);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <cstring>
 
 namespace {
 
@@ -58,19 +59,43 @@ WindowClock::WindowClock() : m_connection(xcb_connect(nullptr, nullptr))
     const std::uint32_t events = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(m_connection.get(), m_root, XCB_CW_EVENT_MASK, &events);
     xcb_flush(m_connection.get());
+    m_hasWindowManager = rootValues("_NET_SUPPORTING_WM_CHECK") > 0;
 }
 
-WindowClock::Result WindowClock::measure(const std::string &program, Until until)
+/// How many values a property of the root window holds.
+unsigned WindowClock::rootValues(const char *property) const
+{
+    constexpr std::uint32_t most = 1000;
+    const auto name = owned(xcb_intern_atom_reply(
+        m_connection.get(),
+        xcb_intern_atom(m_connection.get(), 0, static_cast<std::uint16_t>(std::strlen(property)),
+                        property),
+        nullptr));
+    if (!name)
+        return 0;
+    const auto values = owned(xcb_get_property_reply(
+        m_connection.get(),
+        xcb_get_property(m_connection.get(), 0, m_root, name->atom, XCB_ATOM_WINDOW, 0, most),
+        nullptr));
+    return values ? values->value_len : 0;
+}
+
+WindowClock::Result WindowClock::measure(const std::string &program, Until until, unsigned windows)
 {
     using Clock = std::chrono::steady_clock;
     while (const auto stale = owned(xcb_poll_for_event(m_connection.get()))) {
     }
+    const unsigned others = managedWindows();
     const auto begin = Clock::now();
     const pid_t child = start(program);
     until == Until::Mapped ? waitForMapped() : waitForPixel(false);
     const std::chrono::duration<double, std::milli> taken = Clock::now() - begin;
     waitForPixel(false);
+    while (m_hasWindowManager && managedWindows() < others + windows) {
+    }
     const long resident = endOf(child);
+    while (managedWindows() > others) {
+    }
     waitForPixel(true);
     return {taken.count(), resident};
 }
@@ -82,6 +107,11 @@ void WindowClock::waitForMapped()
         if ((event->response_type & ~sentByClient) == XCB_MAP_NOTIFY)
             return;
     }
+}
+
+unsigned WindowClock::managedWindows() const
+{
+    return rootValues("_NET_CLIENT_LIST");
 }
 
 void WindowClock::waitForPixel(bool black)

@@ -26,19 +26,24 @@ public:
 
     /// False without a display.
     bool isReady() const { return m_connection != nullptr; }
-    Result measure(const std::string &program, Until until);
+    /// The program is ended once all its `windows` are managed, as far as there is a window
+    /// manager: some leave the frame of a window behind that vanishes too soon.
+    Result measure(const std::string &program, Until until, unsigned windows);
 
 private:
     struct Disconnect
     {
         void operator()(xcb_connection_t *connection) const;
     };
+    unsigned rootValues(const char *property) const;
+    unsigned managedWindows() const;
     void waitForMapped();
     void waitForPixel(bool black);
     bool isMiddleBlack();
 
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
     unsigned m_root = 0;
+    bool m_hasWindowManager = false;
     short m_middleX = 0;
     short m_middleY = 0;
 };
