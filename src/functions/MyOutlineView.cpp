@@ -128,8 +128,11 @@ void MyOutlineView::setSelectedItem(const GameCommandItem *item)
     const QModelIndex row = firstRow([=](const GameCommandItem &at) { return &at == item; });
     if (!row.isValid())
         return;
+    const bool isInSight = viewport()->rect().contains(visualRect(row));
     setCurrentIndex(row);
-    scrollTo(row);
+    // With its neighbours around it, where there are any.
+    if (!isInSight)
+        scrollTo(row, PositionAtCenter);
 }
 
 QRect MyOutlineView::stripOf(const QModelIndex &index) const
