@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-/// Benchmarks of what a click does, until it shows.
+// Benchmarks of what a click does, until it shows.
 
 /// The seconds that a click takes: until everything that follows from it is done and all of
 /// `watched` have been drawn. It waits for ever for one that is never drawn.

@@ -36,8 +36,10 @@ public:
 
     /// Expands or collapses without telling anybody.
     void SetExpanded(bool expanded);
+    /// Whether it is expanded; at first it is not.
     bool GetExpanded() const { return bExpanded; }
 
+    /// The number by which its owner knows it; 0 at first.
     void setTag(int tag) { _tag = tag; }
     int tag() const { return _tag; }
 

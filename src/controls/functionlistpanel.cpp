@@ -13,7 +13,7 @@ constexpr double kRow[] = {41, 41, 41};
 FunctionListPanel::FunctionListPanel(const FunctionListLook &look, QWidget *parent, UpRect frame,
                                      const Action<CollapsiblePanel *> &noticeAction)
     : CollapsiblePanel(look.panel, parent, frame, noticeAction),
-      m_look(look),
+      m_listLook(look),
       m_list(new pngListBox(this))
 {
     m_list->setObjectName(QLatin1String(look.listName));
@@ -35,10 +35,10 @@ void FunctionListPanel::addRows(std::span<const char *const> texts)
 
 void FunctionListPanel::ListboxAction(pngListBox *sender)
 {
-    if (sender->tag() != m_look.listTag)
+    if (sender->tag() != m_listLook.listTag)
         return;
     const int row = sender->getcursel();
-    systemLog(m_look.logLine, row);
+    systemLog(m_listLook.logLine, row);
     if (row >= 0)
         m_noticeAction.send(sender->getfunctionid(row));
 }

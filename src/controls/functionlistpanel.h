@@ -31,10 +31,11 @@ public:
 protected:
     pngListBox &list() const { return *m_list; }
     void addRows(std::span<const char *const> texts);
+    /// Sent with the code of the row that a person has chosen.
     void setSelChangeNoticeAction(const Action<FunctionCode> &action) { m_noticeAction = action; }
 
 private:
-    const FunctionListLook &m_look;
+    const FunctionListLook &m_listLook;
     pngListBox *m_list;
     Action<FunctionCode> m_noticeAction;
 };

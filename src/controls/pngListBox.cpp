@@ -1,6 +1,7 @@
 #include "controls/pngListBox.h"
 
 #include "controls/rowdrag.h"
+#include "controls/scrollbars.h"
 #include "controls/wholetext.h"
 #include "platform/systemlog.h"
 
@@ -72,6 +73,12 @@ void pngListBox::setItemHeight(int height)
     update();
 }
 
+void pngListBox::setRightMargin(int margin)
+{
+    m_rightMargin = margin;
+    update();
+}
+
 void pngListBox::setDBClickAction(const Action<pngListBox *> &action)
 {
     dbClickAction = action;
@@ -110,6 +117,12 @@ UpRect pngListBox::strip(int row) const
     return {0, height() - (row + 1) * m_ItemHeight, width(), m_ItemHeight};
 }
 
+UpRect pngListBox::textPlace(int row) const
+{
+    const UpRect whole = strip(row);
+    return {whole.x, whole.y, whole.width - m_rightMargin, whole.height - kTextInset};
+}
+
 /// -1 where there is no row.
 int pngListBox::rowAt(int fromTop) const
 {
@@ -121,15 +134,16 @@ void pngListBox::drawRect(Canvas &canvas)
 {
     canvas.fill(canvas.bounds(), Qt::black);
     for (int row = 0; row < getCount(); ++row) {
-        UpRect place = strip(row);
         if (row == _currentpos)
-            canvas.fill(place, colourOf(_foreColorR, _foreColorG, _foreColorB));
-        place.height -= kTextInset;
-        canvas.drawLine(pListArray[row], place, colourOf(_textColorR, _textColorG, _textColorB),
-                        _textAlign, kTextSize);
+            canvas.fill(strip(row), colourOf(_foreColorR, _foreColorG, _foreColorB));
+        canvas.drawLine(pListArray[row], textPlace(row),
+                        colourOf(_textColorR, _textColorG, _textColorB), _textAlign, kTextSize);
     }
-    if (m_focusFrame.isShown(*this))
-        canvas.outline(canvas.bounds(), kGold);
+    if (!m_focusFrame.isShown(*this))
+        return;
+    // Of a list that scrolls, only the selected row is sure to be in sight.
+    const bool hasRow = _currentpos >= 0 && _currentpos < getCount();
+    canvas.outline(hasRow ? strip(_currentpos) : canvas.bounds(), kGold);
 }
 
 bool pngListBox::event(QEvent *event)
@@ -138,7 +152,7 @@ bool pngListBox::event(QEvent *event)
         return View::event(event);
     const auto &help = *static_cast<QHelpEvent *>(event);
     showWholeText(help, *this, stringAt(rowAt(help.y())), QFontMetrics(systemFont(kTextSize)),
-                  width());
+                  width() - m_rightMargin);
     return true;
 }
 
@@ -150,13 +164,13 @@ void pngListBox::focusInEvent(QFocusEvent *event)
 
 void pngListBox::mouseDown(const ViewMouseEvent &event)
 {
+    m_isDragged = false;
     if (event.clickCount > 1) {
         if (bEnableDBClick)
             dbClickAction.send(this);
         return;
     }
     m_pressedAt = event.event->position().toPoint();
-    m_isDragged = false;
     const int fromTop = height() - event.position.y;
     const int row = rowAt(fromTop);
     if (row >= 0)
@@ -203,6 +217,8 @@ void pngListBox::keyDown(QKeyEvent *event)
 
 void pngListBox::moveSelection(int by)
 {
-    if (getCount() > 0)
-        setcursel(std::clamp(_currentpos + by, 0, getCount() - 1));
+    if (getCount() == 0)
+        return;
+    setcursel(std::clamp(_currentpos + by, 0, getCount() - 1));
+    scrollIntoView(*this, UpHost(height()).down(strip(_currentpos)));
 }

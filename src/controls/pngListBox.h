@@ -14,8 +14,8 @@ inline constexpr int kProfileListTag = 4097;
 inline constexpr int kMacroListTag = 4098;
 
 /// A plain list of text rows with its own colours, one selected row, a double click, and rows that
-/// can be dragged onto buttons. Up and down move the selection, Return sends what a click sends,
-/// Escape what the loss of the keyboard sends.
+/// can be dragged onto buttons. Up and down move the selection, in a scroll area into view; Return
+/// sends what a click sends, Escape what the loss of the keyboard sends.
 class pngListBox : public View
 {
 public:
@@ -45,7 +45,11 @@ public:
     /// Whether rows can be dragged out; only rows that stand for functions can.
     void enableDragDrop(bool enable) { bEnableDragDrop = enable; }
 
-    /// Sent with the list on every release of the mouse, whether or not the selection changed.
+    /// What the texts leave free at the right edge, in points; 0 at first.
+    void setRightMargin(int margin);
+
+    /// Sent with the list on every release of the mouse that does not end a drag, whether or not
+    /// the selection changed, and by the Return key.
     void setChangeAction(const Action<pngListBox *> &action) { changeAction = action; }
     /// Sent with the list on a double click.
     void setDBClickAction(const Action<pngListBox *> &action);
@@ -72,6 +76,7 @@ protected:
 
 private:
     UpRect strip(int row) const;
+    UpRect textPlace(int row) const;
     int rowAt(int fromTop) const;
     bool hasFunctions() const { return _tag >= kCpiListTag && _tag <= kMacroListTag; }
     void windowKeyChange();
@@ -93,6 +98,7 @@ private:
     bool bEnableDragDrop = false;
     bool bEnableDBClick = false;
     int m_ItemHeight = 20;
+    int m_rightMargin = 0;
     KeyWindowWatch m_keyWatch;
     FocusFrame m_focusFrame;
     quint64 m_releasedAt = 0;

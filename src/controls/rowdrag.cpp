@@ -19,8 +19,7 @@ QPixmap pictureOf(QWidget &source, QRect strip)
     painter.setOpacity(kOpacity);
     painter.drawPixmap(0, 0, row);
     // Dark rows over a dark window have no edge of their own.
-    painter.setPen(kGold);
-    painter.drawRect(QRectF(QPointF(), strip.size()).adjusted(0.5, 0.5, -0.5, -0.5));
+    outlineInside(painter, QRectF(QPointF(), strip.size()), kGold);
     return picture;
 }
 

@@ -2,10 +2,12 @@
 
 #include "platform/canvas.h"
 
-#include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyleOptionSlider>
+
+#include <algorithm>
 
 namespace {
 
@@ -116,4 +118,16 @@ void useSkinScrollBars(QAbstractScrollArea &area)
         bar->setStyle(style);
     area.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
+void scrollIntoView(const QWidget &content, const QRect &part)
+{
+    const QWidget *const viewport = content.parentWidget();
+    auto *const area = viewport ? qobject_cast<QScrollArea *>(viewport->parentWidget()) : nullptr;
+    if (!area || area->widget() != &content)
+        return;
+    // The toolkit's own way to do so stops a point too early.
+    QScrollBar &bar = *area->verticalScrollBar();
+    const int least = part.top() + part.height() - viewport->height();
+    bar.setValue(std::min(std::max(bar.value(), least), part.top()));
 }

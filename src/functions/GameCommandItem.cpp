@@ -2,6 +2,8 @@
 
 #include "functions/functioncodes.h"
 
+#include <utility>
+
 GameCommandItem::Pointer rootItem;
 
 GameCommandItem::Pointer GameCommandItem::rootItem(unsigned category)

@@ -27,7 +27,9 @@ public:
     /// The category number of a category, the function code of a command.
     void setIndexId(std::ptrdiff_t index) { iIndex = index; }
     std::ptrdiff_t getIndexId() const { return iIndex; }
+    /// Null for a category.
     GameCommandItem *GetParent() const { return m_parent; }
+    /// What is written in the row.
     const QString &GetTilteName() const { return TilteName; }
 
     /// The commands of a category, made when they are first asked for; null for a leaf.

@@ -36,6 +36,11 @@ public:
     }
 };
 
+bool isChoosing(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+}
+
 /// Points to the right, or downwards when the row is open.
 void drawArrow(QPainter &painter, QPointF middle, bool open)
 {
@@ -48,14 +53,6 @@ void drawArrow(QPainter &painter, QPointF middle, bool open)
     painter.setBrush(kArrowColour);
     painter.drawPolygon(right);
     painter.restore();
-}
-
-/// A line of one point just inside `rect`.
-void outline(QPainter &painter, QRect rect)
-{
-    painter.setPen(kGold);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 } // namespace
@@ -108,7 +105,7 @@ GameCommandItem *MyOutlineView::findItembyIndex(std::ptrdiff_t index) const
 
 void MyOutlineView::setSelectedItembyIndex(std::ptrdiff_t index)
 {
-    setSelectedItem(findItembyIndex(index));
+    selectRow(findIndex(index));
 }
 
 void MyOutlineView::expandItembyIndex(std::ptrdiff_t index)
@@ -125,7 +122,11 @@ void MyOutlineView::collapseItembyIndex(std::ptrdiff_t index)
 
 void MyOutlineView::setSelectedItem(const GameCommandItem *item)
 {
-    const QModelIndex row = firstRow([=](const GameCommandItem &at) { return &at == item; });
+    selectRow(firstRow([=](const GameCommandItem &at) { return &at == item; }));
+}
+
+void MyOutlineView::selectRow(const QModelIndex &row)
+{
     if (!row.isValid())
         return;
     const bool isInSight = viewport()->rect().contains(visualRect(row));
@@ -158,7 +159,7 @@ void MyOutlineView::drawRow(QPainter *painter, const QStyleOptionViewItem &optio
         painter->fillRect(option.rect, kHighlight);
     // The view has no ring; a player who came by key sees which row the keys go from.
     if (index == currentIndex() && m_focusFrame.isShown(*this))
-        outline(*painter, stripOf(index));
+        outlineInside(*painter, stripOf(index), kGold);
     const QRect place = textRect(index);
     if (model()->hasChildren(index))
         drawArrow(*painter,
@@ -240,7 +241,7 @@ void MyOutlineView::mouseDoubleClickEvent(QMouseEvent *event)
 void MyOutlineView::keyPressEvent(QKeyEvent *event)
 {
     const QModelIndex before = currentIndex();
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (isChoosing(event->key())) {
         toggle(before);
         if (before.isValid())
             choose(before);

@@ -8,12 +8,14 @@
 #include <QtWidgets/QTreeView>
 
 /// An outline of game commands in the skin's look. A click selects, on its release, so that a row
-/// can be dragged away without being chosen; the arrow keys select too, and Return selects the same
-/// row once more. A click on an arrow, a double click and Return open and close a category. What a
-/// person selects is told; what the program selects is not.
+/// can be dragged away without being chosen; the arrow keys and typed letters select too, and
+/// Return and the space key select the same row once more. They open and close a category, as do a
+/// click on its arrow and a double click. What a person selects is told, by the keys once it is
+/// selected; what the program selects is not.
 class MyOutlineView : public Framed<QTreeView>
 {
 public:
+    /// Empty, until it is given a data source.
     explicit MyOutlineView(QWidget *parent);
 
     /// Shows the source's rows. Call it once.
@@ -47,6 +49,7 @@ private:
     template <class Matches>
     QModelIndex firstRow(Matches matches) const;
     QModelIndex findIndex(std::ptrdiff_t index) const;
+    void selectRow(const QModelIndex &row);
     QRect textRect(const QModelIndex &index) const;
     QRect stripOf(const QModelIndex &index) const;
     bool isOnArrow(const QModelIndex &index, QPoint position) const;

@@ -9,9 +9,11 @@ class OutlineDataSource
 public:
     virtual ~OutlineDataSource() = default;
 
+    /// GameCommandItem::kLeafMark for an item that never has any.
     virtual std::size_t numberOfChildrenOfItem(GameCommandItem *item) = 0;
     /// Child `i` of an item; null when there is none.
     virtual GameCommandItem::Pointer child(std::size_t i, GameCommandItem *ofItem) = 0;
+    /// Whether an item can be opened; asked for every row that shows, so it makes no children.
     virtual bool isItemExpandable(GameCommandItem *item) = 0;
     /// What is written in an item's row.
     virtual QString objectValueForTableColumn(GameCommandItem *byItem) = 0;

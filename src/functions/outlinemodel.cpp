@@ -3,6 +3,8 @@
 #include <QtCore/QMimeData>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 

@@ -9,6 +9,7 @@
 class OutlineModel : public QAbstractItemModel
 {
 public:
+    /// Asks the source for the number of top rows only.
     OutlineModel(std::shared_ptr<OutlineDataSource> source, QObject *parent);
 
     /// The item of a row; null for the invisible root.

@@ -13,6 +13,7 @@ public:
     /// it.
     rightbarTreeView(QWidget *parent, UpRect frame, const Action<CollapsiblePanel *> &noticeAction);
 
+    /// Sent with the code of the command that a person has selected.
     void setTreeSelChangeNoticeAction(const Action<FunctionCode> &action);
     /// Opens the category of a game command and selects its row, without telling anybody. A code in
     /// no category's range opens nothing, one that no row carries selects nothing.

@@ -21,13 +21,22 @@ constexpr FunctionListLook kLook{.panel = {.title = "Custom Macros",
                                  .listName = "pMacroListbox",
                                  .logLine = "Macro Index:%d"};
 
-constexpr int kListWidth = 175;
-constexpr int kListHeight = 240; ///< at first; it grows with its rows
-constexpr int kRowsThatFit = 11;
+constexpr QSize kListSize{175, 240}; ///< at first; it grows with its rows
+constexpr int kRowsBeforeItGrows = 11;
 
 /// The buttons stand in the header, whose lower edge moves with the panel's height.
 constexpr UpRect kNew{10, 0, 74, 27};
 constexpr UpRect kDelete{90, 0, 74, 27};
+
+/// Tab goes past the list without scrolling it: the toolkit's area would show the list's middle.
+class ListArea : public Framed<QScrollArea>
+{
+public:
+    using Framed::Framed;
+
+protected:
+    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
+};
 
 HoverButton *makeHeaderButton(QWidget *parent, const char *name, const char *caption)
 {
@@ -37,7 +46,7 @@ HoverButton *makeHeaderButton(QWidget *parent, const char *name, const char *cap
     button->setCaptionText(QLatin1String(caption));
     button->setNormalImage(SkinImage::named("new_normal"));
     button->setAlternateImage(SkinImage::named("new_down"));
-    button->setDisable(true);
+    button->setDisable(true); // there is no editor to open yet
     return button;
 }
 
@@ -51,7 +60,7 @@ UpRect raised(UpRect rect, int by)
 rightbarMacro::rightbarMacro(QWidget *parent, UpRect frame,
                              const Action<CollapsiblePanel *> &noticeAction)
     : FunctionListPanel(kLook, parent, frame, noticeAction),
-      MacroListscrollView(new Framed<QScrollArea>(this)),
+      MacroListscrollView(new ListArea(this)),
       btnNew(makeHeaderButton(this, "btnNew", "New")),
       btnDelete(makeHeaderButton(this, "btnDelete", "Delete"))
 {
@@ -59,7 +68,8 @@ rightbarMacro::rightbarMacro(QWidget *parent, UpRect frame,
     MacroListscrollView->setFocusPolicy(Qt::NoFocus);
     useSkinScrollBars(*MacroListscrollView);
     MacroListscrollView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list().resize(kListWidth, kListHeight);
+    list().resize(kListSize);
+    list().setRightMargin(kScrollBarWidth);
     MacroListscrollView->setWidget(&list());
     refreshMacroList();
     setContent(MacroListscrollView);
@@ -77,8 +87,8 @@ void rightbarMacro::refreshMacroList()
     }
     list().update();
     // On purpose it never becomes lower again.
-    if (list().getCount() > kRowsThatFit)
-        list().resize(kListWidth, list().getCount() * kLook.rowHeight);
+    if (list().getCount() > kRowsBeforeItGrows)
+        list().resize(kListSize.width(), list().getCount() * kLook.rowHeight);
     keepToRows();
 }
 
@@ -86,8 +96,8 @@ void rightbarMacro::refreshMacroList()
 /// are not scrolled out of sight.
 void rightbarMacro::keepToRows()
 {
-    if (list().getcursel() >= list().getCount())
-        list().setcursel(-1);
+    const int row = list().getcursel();
+    list().setcursel(row < list().getCount() ? row : -1);
     const int rows = list().getCount() * kLook.rowHeight;
     const int last = std::max(0, rows - MacroListscrollView->viewport()->height());
     QScrollBar *const bar = MacroListscrollView->verticalScrollBar();
@@ -97,8 +107,8 @@ void rightbarMacro::keepToRows()
 void rightbarMacro::setMacroSel(std::int32_t row)
 {
     list().setcursel(row);
-    MacroListscrollView->ensureVisible(0, row * kLook.rowHeight + kLook.rowHeight / 2, 0,
-                                       kLook.rowHeight);
+    if (row < list().getCount())
+        scrollIntoView(list(), {0, row * kLook.rowHeight, 1, kLook.rowHeight});
 }
 
 void rightbarMacro::setHiddenButton(bool hidden)

@@ -12,6 +12,7 @@ public:
     /// it.
     rightbarMacro(QWidget *parent, UpRect frame, const Action<CollapsiblePanel *> &noticeAction);
 
+    /// Sent with the code of the row that a person has chosen.
     void setMacroSelChangeNoticeAction(const Action<FunctionCode> &action)
     {
         setSelChangeNoticeAction(action);

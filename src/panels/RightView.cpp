@@ -104,7 +104,7 @@ void RightView::ViewNoticeAction(CollapsiblePanel *panel)
         return;
     systemLog("%s", row->name);
     if (panel->GetExpanded())
-        expandOnly(panel);
+        collapseOthers(panel);
     manageViewPos();
 }
 
@@ -114,10 +114,12 @@ void RightView::NoticeMainFuncChange(FunctionCode code)
 }
 
 /// Null collapses all.
-void RightView::expandOnly(const CollapsiblePanel *panel)
+void RightView::collapseOthers(const CollapsiblePanel *panel)
 {
-    for (CollapsiblePanel *each : panels())
-        each->SetExpanded(each == panel);
+    for (CollapsiblePanel *each : panels()) {
+        if (each != panel)
+            each->SetExpanded(false);
+    }
 }
 
 void RightView::manageViewPos()
@@ -154,15 +156,6 @@ void RightView::placePanel(CollapsiblePanel &panel, int y, int height)
         hideQuietly(panel);
     else
         panel.show();
-}
-
-/// A keyboard in it is let go. By itself it would pass on to the next control, which may be one of
-/// another window.
-void RightView::hideQuietly(QWidget &part)
-{
-    if (QWidget *const focused = keyboardWithin(part))
-        focused->clearFocus();
-    part.hide();
 }
 
 void RightView::hideMiniBar()
@@ -203,14 +196,18 @@ void RightView::showToggleAt(UpPoint origin)
 /// Null closes all.
 void RightView::show(CollapsiblePanel *panel)
 {
-    expandOnly(panel);
+    collapseOthers(panel);
+    if (panel)
+        panel->SetExpanded(true);
     manageViewPos();
     SetMaxToggleImage();
 }
 
 void RightView::refreshMacroList()
 {
-    pMacroView->refreshMacroList();
+    // A collapsed one does so when it expands.
+    if (pMacroView->GetExpanded())
+        pMacroView->refreshMacroList();
 }
 
 void RightView::setAllWindowclose()

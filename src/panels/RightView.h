@@ -44,11 +44,10 @@ private:
     static constexpr std::size_t kPanelCount = 4;
 
     std::array<CollapsiblePanel *, kPanelCount> panels() const;
-    void expandOnly(const CollapsiblePanel *panel);
+    void collapseOthers(const CollapsiblePanel *panel);
     void show(CollapsiblePanel *panel);
     void manageViewPos();
     void stack(bool asExpanded);
-    static void hideQuietly(QWidget &part);
     void placePanel(CollapsiblePanel &panel, int y, int height);
     void showToggleAt(UpPoint origin);
 
@@ -57,5 +56,5 @@ private:
     rightbarProfile *pProfileView = nullptr;
     rightbarMacro *pMacroView = nullptr;
     std::optional<Qt::FocusReason> m_toggleKeyboard; ///< why the hidden handle had the keyboard
-    bool m_isMiniBarHidden = false; ///< while the bar slides, and as long as it is closed
+    bool m_isMiniBarHidden = false; ///< from the start of a slide until the bar stands open
 };

@@ -10,6 +10,7 @@ public:
     /// it.
     rightbarDPI(QWidget *parent, UpRect frame, const Action<CollapsiblePanel *> &noticeAction);
 
+    /// Sent with the code of the row that a person has chosen.
     void setDPISelChangeNoticeAction(const Action<FunctionCode> &action)
     {
         setSelChangeNoticeAction(action);

@@ -27,6 +27,14 @@ QFont systemFont(int size)
     return font;
 }
 
+void outlineInside(QPainter &painter, const QRectF &rect, const QColor &colour)
+{
+    painter.setPen(colour);
+    painter.setBrush(Qt::NoBrush);
+    // The pen is a point wide: its middle runs half a point inside.
+    painter.drawRect(rect.adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
 Canvas::Canvas(QWidget &view)
     : m_painter(&view), m_bounds{0, 0, view.width(), view.height()}, m_host(view.height())
 {
@@ -48,9 +56,7 @@ void Canvas::fill(UpRect rect, const QColor &colour)
 
 void Canvas::outline(UpRect rect, const QColor &colour)
 {
-    m_painter.setPen(colour);
-    // The pen is a point wide, at every scale: its middle runs half a point inside.
-    m_painter.drawRect(QRectF(m_host.down(rect)).adjusted(0.5, 0.5, -0.5, -0.5));
+    outlineInside(m_painter, m_host.down(rect), colour);
 }
 
 void Canvas::drawImage(const SkinImage &image, UpPoint origin, qreal opacity)

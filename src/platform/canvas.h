@@ -19,6 +19,9 @@ inline constexpr QColor kWhite = QColor(255, 255, 255);
 /// The system font at a size in points of the view, that is in pixels at scale 1.
 QFont systemFont(int size);
 
+/// Draws a line of one point just inside `rect`, at every scale.
+void outlineInside(QPainter &painter, const QRectF &rect, const QColor &colour);
+
 /// The surface of a view while it draws itself, in upward coordinates.
 class Canvas
 {

@@ -11,6 +11,7 @@ class FocusFrame
 public:
     /// The view has got the keyboard.
     void focusIn(const QFocusEvent &event);
+    /// Whether `view`, the one that is told of its focus events, shows the frame now.
     bool isShown(const QWidget &view) const;
 
 private:

@@ -31,6 +31,13 @@ QWidget *keyboardWithin(const QWidget &part)
     return isWithin ? focused : nullptr;
 }
 
+void hideQuietly(QWidget &part)
+{
+    if (QWidget *const focused = keyboardWithin(part))
+        focused->clearFocus();
+    part.hide();
+}
+
 void KeyWindowWatch::start(QWidget *window, std::function<void()> resigned)
 {
     stop();

@@ -19,6 +19,10 @@ void makeKeyWindow(QWidget &window);
 /// What in `part`, or `part` itself, has the keyboard when their window has it; null when nothing.
 QWidget *keyboardWithin(const QWidget &part);
 
+/// Hides `part` and lets go of a keyboard in it. By itself that would pass on to the next control,
+/// which may be one of another window.
+void hideQuietly(QWidget &part);
+
 /// Tells when a window stops being the one that has the keyboard.
 class KeyWindowWatch : public QObject
 {

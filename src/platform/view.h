@@ -33,6 +33,7 @@ public:
         m_frame = frame;
         place();
     }
+    /// Puts the view where its frame says: its host has another height.
     virtual void place() = 0;
 
 protected:
@@ -51,6 +52,7 @@ class Framed : public Base, public Placed
 public:
     using Base::Base;
 
+    /// Where it is; a window, on the screen.
     UpRect frame() const { return this->isWindow() ? hostOf(*this).up(this->geometry()) : m_frame; }
 
     void place() final { this->setGeometry(hostOf(*this).down(m_frame)); }

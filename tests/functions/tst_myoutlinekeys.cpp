@@ -51,6 +51,8 @@ void tst_myoutlinekeys::eachKeyDoesItsOwn_data()
     row("left on a closed one", 1, Qt::Key_Left, "", movement);
     row("return on a command", 4104, Qt::Key_Return, "Jump", movement);
     row("enter on a command", 4104, Qt::Key_Enter, "Jump", movement);
+    row("space on a command", 4104, Qt::Key_Space, "Jump", movement);
+    row("space opens", 1, Qt::Key_Space, "Chat Functions", "Movement Keys|Chat Functions");
     row("return opens", 1, Qt::Key_Return, "Chat Functions", "Movement Keys|Chat Functions");
     row("return closes", 0, Qt::Key_Return, "Movement Keys", "");
     row("a letter", 0, Qt::Key_T, "Turn Left", movement);

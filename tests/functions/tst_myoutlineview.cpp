@@ -13,6 +13,8 @@ private Q_SLOTS:
     void aRowIsExpandedAndCollapsedByItsIndex();
     void theProgramSelectsOneRowAndTellsNobody();
     void theProgramsSelectionComesIntoSight();
+    void aRowThatWasOutOfSightShowsWithItsNeighbours();
+    void aRowInSightStaysWhereItIs();
     void aSelectedRowComesIntoSightAgain();
     void whatIsNotFoundChangesNothing();
     void anItemWithoutARowIsNotSelected();
@@ -89,6 +91,27 @@ void tst_myoutlineview::theProgramsSelectionComesIntoSight()
     QVERIFY(outlinerows::isInSight(stage.outline, "Next Action Bar"));
     stage.outline.setSelectedItembyIndex(0);
     QVERIFY(outlinerows::isInSight(stage.outline, "Movement Keys"));
+}
+
+void tst_myoutlineview::aRowThatWasOutOfSightShowsWithItsNeighbours()
+{
+    TreeStage stage;
+    stage.outline.expandItembyIndex(2);
+    stage.outline.setSelectedItembyIndex(12330);
+    for (const char *name : {"Secondary Action Button 6", "Secondary Action Button 7",
+                             "Secondary Action Button 9", "Secondary Action Button 10"})
+        QVERIFY2(outlinerows::isInSight(stage.outline, name), name);
+}
+
+void tst_myoutlineview::aRowInSightStaysWhereItIs()
+{
+    TreeStage stage;
+    stage.outline.expandItembyIndex(2);
+    stage.outline.setSelectedItembyIndex(12330);
+    const int before = stage.outline.verticalScrollBar()->value();
+    stage.outline.setSelectedItembyIndex(12332);
+    QCOMPARE(stage.selected(), QStringLiteral("Secondary Action Button 10"));
+    QCOMPARE(stage.outline.verticalScrollBar()->value(), before);
 }
 
 void tst_myoutlineview::aSelectedRowComesIntoSightAgain()

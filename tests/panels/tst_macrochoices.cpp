@@ -1,4 +1,5 @@
 #include "macrostage.h"
+#include "support/pictures.h"
 #include "support/suite.h"
 
 /// Macros chosen in their panel, and shown there for a button.
@@ -11,6 +12,10 @@ private Q_SLOTS:
     void withoutMacrosAClickGivesNothing();
     void aButtonsMacroIsSelectedAndShows_data();
     void aButtonsMacroIsSelectedAndShows();
+    void theArrowKeysKeepTheSelectedRowInSight();
+    void theTabKeyPassesTheListWithoutScrollingIt();
+    void aMissingMacroScrollsNothing();
+    void aLongNameEndsBesideTheScrollBar();
     void aMacroThatIsNotThereIsHarmless_data();
     void aMacroThatIsNotThereIsHarmless();
     void everyRowCanBeDragged();
@@ -77,6 +82,56 @@ void tst_macrochoices::aButtonsMacroIsSelectedAndShows()
         QCOMPARE(PanelsStage::code(kMacroButton), code);
         QVERIFY(!stage.program.applyIsEnabled());
     }
+}
+
+void tst_macrochoices::theArrowKeysKeepTheSelectedRowInSight()
+{
+    MacroStage stage(20);
+    stage.openAt(PanelId::Macro);
+    keyboard::tabTo(stage.macros());
+    for (int row = 0; row < 20; ++row) {
+        keyboard::press(Qt::Key_Down);
+        QCOMPARE(stage.macros().getcursel(), row);
+        QVERIFY(stage.showsWhole(row));
+    }
+    for (int row = 18; row >= 0; --row) {
+        keyboard::press(Qt::Key_Up);
+        QVERIFY(stage.showsWhole(row));
+    }
+}
+
+void tst_macrochoices::theTabKeyPassesTheListWithoutScrollingIt()
+{
+    MacroStage stage(20);
+    stage.openAt(PanelId::Macro);
+    keyboard::tabTo(stage.macros());
+    keyboard::press(Qt::Key_Tab);
+    QVERIFY(!stage.macros().hasFocus());
+    QCOMPARE(stage.scroll().verticalScrollBar()->value(), 0);
+}
+
+void tst_macrochoices::aMissingMacroScrollsNothing()
+{
+    MacroStage stage(50);
+    stage.openAt(PanelId::Macro);
+    nameMacros(3);
+    stage.find(kMacroButton, 296);
+    QVERIFY(stage.showsWhole(0));
+}
+
+void tst_macrochoices::aLongNameEndsBesideTheScrollBar()
+{
+    MacroStage stage(20);
+    nameMacro(0, std::string(60, 'W'));
+    stage.openAt(PanelId::Macro);
+    const QImage shownList = shown(stage.macros());
+    int rightmost = 0;
+    for (int x = 0; x < shownList.width(); ++x) {
+        for (int y = 0; y < kMacroRowHeight; ++y)
+            rightmost = shownList.pixelColor(x, y) == QColor(Qt::black) ? rightmost : x;
+    }
+    QVERIFY(rightmost > 140);
+    QVERIFY(rightmost < 168);
 }
 
 void tst_macrochoices::aMacroThatIsNotThereIsHarmless_data()
