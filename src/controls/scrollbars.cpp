@@ -63,10 +63,10 @@ public:
         if (control != CC_ScrollBar || !bar)
             return QProxyStyle::drawComplexControl(control, option, painter, widget);
         painter->fillRect(bar->rect, kGroove);
-        const bool isHeld = bar->activeSubControls & SC_ScrollBarSlider;
+        const bool isLit = bar->activeSubControls & SC_ScrollBarSlider;
         painter->setRenderHint(QPainter::Antialiasing);
         painter->setPen(kEdge);
-        painter->setBrush(isHeld ? kLit : kBrass);
+        painter->setBrush(isLit ? kLit : kBrass);
         painter->drawRoundedRect(QRectF(partOf(*bar, SC_ScrollBarSlider)).adjusted(1, 1, -1, -1),
                                  kCorner, kCorner);
     }

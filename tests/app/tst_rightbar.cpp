@@ -22,6 +22,7 @@ private Q_SLOTS:
     void whileTheBarClosesItOpensAgainForAFunction();
     void aBarThatIsClosedBeforeItStoodShowsNoFunction();
     void aFunctionIsShownOnce();
+    void changedMacrosAreListedWhileTheBarIsOpen();
 };
 
 namespace {
@@ -217,6 +218,21 @@ void tst_rightbar::aFunctionIsShownOnce()
     stage.asked();
     stage.toggleRightBar();
     QCOMPARE(stage.asked(), list({"hideMiniBar at 16", "openMiniBar at 200"}));
+}
+
+void tst_rightbar::changedMacrosAreListedWhileTheBarIsOpen()
+{
+    ControllerStage stage;
+    stage.controll.refreshMacroList();
+    QCOMPARE(stage.asked(), QStringList());
+    stage.toggleRightBar();
+    stage.asked();
+    stage.controll.refreshMacroList();
+    QCOMPARE(stage.asked(), list({"refreshMacroList at 200"}));
+    stage.toggleRightBar();
+    stage.asked();
+    stage.controll.refreshMacroList();
+    QCOMPARE(stage.asked(), QStringList());
 }
 
 KYR_GUI_TEST(tst_rightbar)

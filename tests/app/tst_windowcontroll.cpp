@@ -337,6 +337,7 @@ void tst_windowcontroll::viewsThatWereNeverSetAreLeftOut()
     stage.controll.refreshSetting();
     stage.controll.setMainViewApplyStatus(true);
     stage.controll.refreshProfileColorBar();
+    stage.controll.refreshMacroList();
     stage.controll.windowDidResize();
     stage.controll.changeSelFunction(1);
     stage.controll.findFunctionItem(16);

@@ -1,10 +1,7 @@
 #include "controls/buttonstage.h"
+#include "controls/tooltips.h"
+#include "support/paintwatch.h"
 #include "support/suite.h"
-
-#include <QtGui/QHelpEvent>
-#include <QtGui/QTextDocument>
-#include <QtGui/QTextDocumentFragment>
-#include <QtWidgets/QToolTip>
 
 /// The skinned button: its faces and its caption.
 class tst_hoverbutton : public QObject
@@ -18,10 +15,14 @@ private Q_SLOTS:
     void aMissingFaceLeavesTheFaceAsItWas();
     void aFaceIsAPrivateCopy();
     void theCaptionIsOrangeAndWhiteWhilePressed();
+    void theCaptionOfADisabledButtonIsFaint();
     void theCaptionIsCentred();
     void aLongCaptionIsCutInsideTheButton();
     void theToolTipTellsACutCaptionAsItStands_data();
     void theToolTipTellsACutCaptionAsItStands();
+    void aCaptionAsWideAsItsPlaceHasNoToolTip();
+    void everyChangeIsDrawn_data();
+    void everyChangeIsDrawn();
     void theCaptionIsToldToAssistiveTechnology();
 };
 
@@ -37,13 +38,6 @@ QColor faceAfter(const Steps &steps)
     stage.setAllFaces();
     steps(stage);
     return stage.face();
-}
-
-/// A tool tip as its reader sees it: what looks like rich text is shown as such.
-QString asShown(const QString &toolTip)
-{
-    return Qt::mightBeRichText(toolTip) ? QTextDocumentFragment::fromHtml(toolTip).toPlainText()
-                                        : toolTip;
 }
 
 /// A row: steps, and the face that they lead to.
@@ -162,6 +156,20 @@ void tst_hoverbutton::theCaptionIsOrangeAndWhiteWhilePressed()
     QCOMPARE(pressed.hsvSaturation(), 0);
 }
 
+void tst_hoverbutton::theCaptionOfADisabledButtonIsFaint()
+{
+    ButtonStage stage;
+    stage.button.setNormalImage(plainPicture(stage.button.size(), Qt::black));
+    stage.button.setCaptionText(QStringLiteral("HIT"));
+    const QColor enabled = brightest(shown(stage.button));
+    stage.button.setDisable(true);
+    const QColor disabled = brightest(shown(stage.button));
+    QVERIFY(qAbs(disabled.hsvHue() - kOrange.hsvHue()) <= 1);
+    QVERIFY(qAbs(disabled.value() - enabled.value() * 55 / 100) <= 2);
+    stage.button.setDisable(false);
+    QCOMPARE(brightest(shown(stage.button)), enabled);
+}
+
 void tst_hoverbutton::theCaptionIsCentred()
 {
     ButtonStage stage;
@@ -204,11 +212,48 @@ void tst_hoverbutton::theToolTipTellsACutCaptionAsItStands()
     QFETCH(QString, caption);
     QFETCH(bool, told);
     ButtonStage stage;
-    QToolTip::hideText();
     stage.button.setCaptionText(caption);
-    QHelpEvent help(QEvent::ToolTip, {10, 10}, stage.button.mapToGlobal(QPoint(10, 10)));
-    QApplication::sendEvent(&stage.button, &help);
-    QCOMPARE(asShown(QToolTip::text()), told ? caption : QString());
+    QCOMPARE(toolTipAt(stage.button, {10, 10}), told ? caption : QString());
+}
+
+/// It is 8 points clear of the button's sides.
+void tst_hoverbutton::aCaptionAsWideAsItsPlaceHasNoToolTip()
+{
+    ButtonStage stage;
+    const QString caption = QStringLiteral("A caption of some length");
+    const int width = QFontMetrics(systemFont(10)).horizontalAdvance(caption) + 16;
+    stage.button.setCaptionText(caption);
+    stage.button.setFrame({20, 30, width, 27});
+    QCOMPARE(toolTipAt(stage.button, {10, 10}), QString());
+    stage.button.setFrame({20, 30, width - 1, 27});
+    QCOMPARE(toolTipAt(stage.button, {10, 10}), caption);
+}
+
+void tst_hoverbutton::everyChangeIsDrawn_data()
+{
+    QTest::addColumn<Steps>("change");
+    const auto row = [](const char *name, const Steps &change) { QTest::newRow(name) << change; };
+    row("the caption",
+        [](ButtonStage &stage) { stage.button.setCaptionText(QStringLiteral("Jump")); });
+    row("the normal face", [](ButtonStage &stage) {
+        stage.button.setNormalImage(plainPicture(stage.button.size(), Qt::cyan));
+    });
+    row("the face of one that is on", [](ButtonStage &stage) {
+        stage.button.setAlternateImage(plainPicture(stage.button.size(), Qt::cyan));
+    });
+}
+
+void tst_hoverbutton::everyChangeIsDrawn()
+{
+    QFETCH(Steps, change);
+    ButtonStage stage;
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.window));
+    QCoreApplication::processEvents();
+    const PaintWatch watch(stage.button);
+    QCoreApplication::processEvents();
+    QVERIFY(!watch.hasPainted({40, 10}));
+    change(stage);
+    QTRY_VERIFY(watch.hasPainted({40, 10}));
 }
 
 void tst_hoverbutton::theCaptionIsToldToAssistiveTechnology()

@@ -14,6 +14,10 @@ private Q_SLOTS:
     void aDropIsRefused_data();
     void aDropIsRefused();
     void theFaceShowsADragOverTheButton();
+    void aFrameShowsADragOverTheButton();
+    void noFrameShowsADragThatIsRefused_data();
+    void noFrameShowsADragThatIsRefused();
+    void aDropIsACopyWhateverIsOffered();
 };
 
 namespace {
@@ -26,8 +30,12 @@ struct DropStage : ButtonStage
         setAllFaces();
         button.enableDragDrop({&drops, &Clicks::receive});
     }
+    QImage picture() { return shown(button); }
+
     Clicks drops;
 };
+
+const QColor kFrame(255, 223, 128);
 
 } // namespace
 
@@ -121,6 +129,64 @@ void tst_hoverbuttondrop::theFaceShowsADragOverTheButton()
     QCOMPARE(stage.face(), kNormalFace);
     QVERIFY(dropOn(stage.button, data));
     QCOMPARE(stage.face(), kNormalFace);
+}
+
+void tst_hoverbuttondrop::aFrameShowsADragOverTheButton()
+{
+    DropStage stage;
+    QMimeData data;
+    data.setText(QStringLiteral("1"));
+    for (int round = 0; round < 2; ++round) {
+        QVERIFY(extentOf(stage.picture(), kFrame).isEmpty());
+        QVERIFY(dragOver(stage.button, data));
+        // Two points broad, all around.
+        const QRect inner = stage.button.rect().adjusted(2, 2, -2, -2);
+        QCOMPARE(extentOfOther(stage.picture(), kFrame), inner);
+        QVERIFY(extentOf(stage.picture().copy(inner), kFrame).isEmpty());
+        dragAway(stage.button);
+    }
+    QVERIFY(dropOn(stage.button, data));
+    QVERIFY(extentOf(stage.picture(), kFrame).isEmpty());
+}
+
+void tst_hoverbuttondrop::noFrameShowsADragThatIsRefused_data()
+{
+    QTest::addColumn<bool>("disabled");
+    QTest::addColumn<QString>("format");
+    QTest::newRow("disabled") << true << QStringLiteral("text/plain");
+    QTest::newRow("a picture") << false << QStringLiteral("image/png");
+}
+
+void tst_hoverbuttondrop::noFrameShowsADragThatIsRefused()
+{
+    QFETCH(bool, disabled);
+    QFETCH(QString, format);
+    DropStage stage;
+    stage.button.setDisable(disabled);
+    QMimeData data;
+    data.setData(format, "42");
+    QVERIFY(!dragOver(stage.button, data));
+    QVERIFY(extentOf(stage.picture(), kFrame).isEmpty());
+    QCOMPARE(stage.face(), disabled ? kDisabledFace : kNormalFace);
+}
+
+/// Moved, what is dragged would be gone where it came from.
+void tst_hoverbuttondrop::aDropIsACopyWhateverIsOffered()
+{
+    DropStage stage;
+    QMimeData data;
+    data.setText(QStringLiteral("1"));
+    const QPoint at = stage.button.rect().center();
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(at, offered, &data, Qt::LeftButton, {});
+    enter.setDropAction(Qt::MoveAction);
+    QApplication::sendEvent(&stage.button, &enter);
+    QCOMPARE(enter.dropAction(), Qt::CopyAction);
+    QDropEvent drop(at, offered, &data, Qt::LeftButton, {});
+    drop.setDropAction(Qt::MoveAction);
+    QApplication::sendEvent(&stage.button, &drop);
+    QCOMPARE(drop.dropAction(), Qt::CopyAction);
+    QCOMPARE(stage.drops.count(), std::size_t{1});
 }
 
 KYR_GUI_TEST(tst_hoverbuttondrop)

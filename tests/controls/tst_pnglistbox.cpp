@@ -13,6 +13,7 @@ private Q_SLOTS:
     void aPressSelectsTheRowUnderThePointer();
     void aPressBelowTheLastRowKeepsTheSelectionAndStillSends();
     void theReleaseSendsTheAction();
+    void theLastReleasesTimeIsKept();
     void everyReleaseSendsTheAction();
     void onlyTheLeftButtonSelects();
     void aDoubleClickSendsItsActionOnce();
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void returnSendsTheChangeAndEscapeTheKeyLoss();
     void losingTheKeyboardIsLoggedAndSent();
     void aStoppedWatchSendsNothing();
+    void aClickGivesTheListTheKeyboard();
+    void theSelectedRowIsToldToAssistiveTechnology();
     void rowsStandForFunctions_data();
     void rowsStandForFunctions();
 };
@@ -110,6 +113,20 @@ void tst_pnglistbox::theReleaseSendsTheAction()
     QCOMPARE(stage.changes.count(), std::size_t{0});
     pointer::release(stage.list, {20, 30});
     QCOMPARE(stage.changes.senders, std::vector{&stage.list});
+}
+
+void tst_pnglistbox::theLastReleasesTimeIsKept()
+{
+    ListStage stage;
+    QCOMPARE(stage.list.releasedAt(), quint64{0});
+    const QPoint at(20, 30);
+    for (const quint64 time : {7000U, 7300U}) {
+        QMouseEvent release(QEvent::MouseButtonRelease, at, stage.list.mapToGlobal(at),
+                            Qt::LeftButton, Qt::NoButton, {});
+        release.setTimestamp(time);
+        QApplication::sendEvent(&stage.list, &release);
+        QCOMPARE(stage.list.releasedAt(), time);
+    }
 }
 
 void tst_pnglistbox::everyReleaseSendsTheAction()
@@ -254,6 +271,28 @@ void tst_pnglistbox::aStoppedWatchSendsNothing()
     QVERIFY(QTest::qWaitForWindowActive(&other));
     QCOMPARE(losses.count(), std::size_t{0});
     QVERIFY(stage.log.lines.empty());
+}
+
+void tst_pnglistbox::aClickGivesTheListTheKeyboard()
+{
+    ListStage stage;
+    stage.window.setFocusPolicy(Qt::StrongFocus);
+    stage.window.setFocus();
+    stage.clickAt(30);
+    QVERIFY(stage.list.hasFocus());
+    stage.key(Qt::Key_Down);
+    QCOMPARE(stage.list.getcursel(), 2);
+}
+
+void tst_pnglistbox::theSelectedRowIsToldToAssistiveTechnology()
+{
+    ListStage stage;
+    stage.clickAt(30);
+    QCOMPARE(stage.list.accessibleDescription(), QStringLiteral("two"));
+    stage.list.setcursel(0);
+    QCOMPARE(stage.list.accessibleDescription(), QStringLiteral("one"));
+    stage.list.setcursel(-1);
+    QCOMPARE(stage.list.accessibleDescription(), QString());
 }
 
 void tst_pnglistbox::rowsStandForFunctions_data()

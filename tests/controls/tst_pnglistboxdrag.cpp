@@ -1,4 +1,5 @@
 #include "controls/liststage.h"
+#include "support/pictures.h"
 #include "support/suite.h"
 
 #include <QtCore/QMimeData>
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void theReleaseThatEndsADragChoosesNothing();
     void aPressStartsOneDragAtMost();
     void theDragPictureIsTheRowAtHalfOpacity();
+    void theDragPictureHasAGoldenEdge();
     void theRowIsHeldWhereItWasPressed();
 };
 
@@ -74,6 +76,7 @@ void tst_pnglistboxdrag::aDragCarriesTheCodeOfTheSelectedRow()
     QTEST(drag->mimeData()->text(), "text");
     QCOMPARE(drag->mimeData()->formats(), QStringList{QStringLiteral("text/plain")});
     QCOMPARE(drag->source(), &stage.list);
+    QCOMPARE(drag->supportedActions(), Qt::DropActions(Qt::CopyAction));
 }
 
 void tst_pnglistboxdrag::nothingIsDragged_data()
@@ -110,7 +113,8 @@ void tst_pnglistboxdrag::theReleaseThatEndsADragChoosesNothing()
 {
     DragStage stage;
     QVERIFY(stage.drag(10, {0, 15}));
-    pointer::release(stage.list, {20, 25});
+    // Straight to the list: a window keeps it to itself, where the desktop may not.
+    QTest::mouseRelease(&stage.list, Qt::LeftButton, {}, {20, 25});
     QCOMPARE(stage.changes.count(), std::size_t{0});
     pointer::click(stage.list, {20, 30});
     QCOMPARE(stage.changes.count(), std::size_t{1});
@@ -136,6 +140,21 @@ void tst_pnglistboxdrag::theDragPictureIsTheRowAtHalfOpacity()
     const QColor corner = drag->pixmap().toImage().pixelColor(1, 1);
     QVERIFY2(qAbs(corner.alpha() - 128) <= 2, qPrintable(corner.name(QColor::HexArgb)));
     QVERIFY2(qAbs(corner.red() - 200) <= 4, qPrintable(corner.name(QColor::HexArgb)));
+}
+
+/// Dark rows over a dark window have no edge of their own.
+void tst_pnglistboxdrag::theDragPictureHasAGoldenEdge()
+{
+    DragStage stage;
+    const QDrag *const drag = stage.drag(30, {0, 15});
+    QVERIFY(drag);
+    const QImage picture = drag->pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
+    // Half transparent gold over the half transparent grey of the selected row.
+    const QColor edge = picture.pixelColor(0, 0);
+    QVERIFY(edge.red() > 160 && qAbs(edge.hsvHue() - kGold.hsvHue()) <= 2 && edge.alpha() > 180);
+    const QRect inner = picture.rect().adjusted(1, 1, -1, -1);
+    QCOMPARE(extentOfOther(picture, edge), inner);
+    QVERIFY(extentOf(picture.copy(inner), edge).isEmpty());
 }
 
 void tst_pnglistboxdrag::theRowIsHeldWhereItWasPressed()

@@ -1,4 +1,5 @@
 #include "controls/liststage.h"
+#include "support/paintwatch.h"
 #include "support/pictures.h"
 #include "support/suite.h"
 
@@ -13,11 +14,16 @@ private Q_SLOTS:
     void theTextStandsAtItsSide_data();
     void theTextStandsAtItsSide();
     void theTextStandsBelowTheTopOfItsRow();
+    void theTextIsOfElevenPoints();
+    void everyChangeIsDrawn_data();
+    void everyChangeIsDrawn();
     void aTextTooLongIsCutAtTheEndOfItsStrip();
     void aClearedListIsBlack();
 };
 
 namespace {
+
+using Change = std::function<void(pngListBox &)>;
 
 /// Where the text of a row is, from the row's own upper left corner.
 QRect textInRow(QWidget &list, int row, int height)
@@ -96,6 +102,48 @@ void tst_pnglistboxlooks::theTextStandsBelowTheTopOfItsRow()
         // The strip is shorter by 3 at its top; the text begins there.
         QVERIFY(text.height() > 4 && text.top() >= 3 && text.bottom() < 22);
     }
+}
+
+void tst_pnglistboxlooks::theTextIsOfElevenPoints()
+{
+    ListStage stage;
+    for (const int height : {20, 21}) {
+        stage.list.setItemHeight(height);
+        QPixmap expected(97, height);
+        expected.fill(Qt::black);
+        QPainter painter(&expected);
+        painter.setFont(systemFont(11));
+        painter.setPen(Qt::white);
+        // In the strip shortened by 3 at its top.
+        painter.drawText(QRect(0, 3, 97, height - 3), Qt::AlignCenter, QStringLiteral("two"));
+        painter.end();
+        QCOMPARE(shown(stage.list).copy(0, height, 97, height),
+                 expected.toImage().convertToFormat(QImage::Format_ARGB32));
+    }
+}
+
+void tst_pnglistboxlooks::everyChangeIsDrawn_data()
+{
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
+    row("a row more", [](pngListBox &list) { list.AddString(QStringLiteral("four")); });
+    row("another selection", [](pngListBox &list) { list.setcursel(2); });
+    row("the texts' colour", [](pngListBox &list) { list.setTextColor(0, 200, 0); });
+    row("the rows' colour", [](pngListBox &list) { list.setForeColor(0, 200, 0); });
+    row("the texts' side", [](pngListBox &list) { list.setTextAlign(TextAlign::Right); });
+    row("the rows' height", [](pngListBox &list) { list.setItemHeight(30); });
+}
+
+void tst_pnglistboxlooks::everyChangeIsDrawn()
+{
+    QFETCH(Change, change);
+    ListStage stage;
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.window));
+    const PaintWatch watch(stage.list);
+    QCoreApplication::processEvents();
+    QVERIFY(!watch.hasPainted({40, 70}));
+    change(stage.list);
+    QTRY_VERIFY(watch.hasPainted({40, 70}));
 }
 
 void tst_pnglistboxlooks::aTextTooLongIsCutAtTheEndOfItsStrip()

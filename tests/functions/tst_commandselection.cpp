@@ -1,4 +1,5 @@
 #include "support/keyboard.h"
+#include "support/paintwatch.h"
 #include "support/suite.h"
 #include "treepanelstage.h"
 
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void aCommandSelectedWhileCollapsedIsInSightAfterwards();
     void openCategoriesStayOpen();
     void aCodeWithoutARowKeepsTheSelection();
+    void theOutlineIsDrawnAgainForEveryCode();
 };
 
 namespace {
@@ -189,6 +191,19 @@ void tst_commandselection::aCodeWithoutARowKeepsTheSelection()
         stage.panel.setTreeSel(code);
         QCOMPARE(outlinerows::selected(stage.outline()), QStringLiteral("Jump"));
     }
+}
+
+void tst_commandselection::theOutlineIsDrawnAgainForEveryCode()
+{
+    TreePanelStage stage;
+    stage.panel.SetExpanded(true);
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.window));
+    QCoreApplication::processEvents();
+    const PaintWatch watch(*stage.outline().viewport());
+    QCoreApplication::processEvents();
+    QVERIFY(!watch.hasPainted({60, 100}));
+    stage.panel.setTreeSel(8192); // selects nothing
+    QTRY_VERIFY(watch.hasPainted({60, 100}));
 }
 
 KYR_GUI_TEST(tst_commandselection)

@@ -1,14 +1,12 @@
 #include "controls/HoverButton.h"
+#include "controls/tooltips.h"
 #include "longnames.h"
 #include "support/pictures.h"
 #include "support/suite.h"
 #include "treestage.h"
 
-#include <QtGui/QHelpEvent>
-#include <QtGui/QTextDocumentFragment>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QToolTip>
 
 /// How an outline is drawn, and what stands at its edges.
 class tst_myoutlinelooks : public QObject
@@ -18,6 +16,7 @@ class tst_myoutlinelooks : public QObject
 private Q_SLOTS:
     void theOutlineIsBlackWithRowsOfOneHeight();
     void everyTextIsOrange();
+    void theTextIsNarrowAndIndented();
     void theSelectedRowIsDarkGrey();
     void theArrowTurnsDownWhenTheCategoryIsOpen();
     void theRowThatTheKeysGoFromIsFramed();
@@ -31,6 +30,7 @@ private Q_SLOTS:
     void theTooltipComesUpUnderThePointer();
     void aNameThatFitsHasNoTooltip();
     void belowTheRowsThereIsNoTooltip();
+    void aNameEndsBesideTheScrollBar();
 };
 
 namespace {
@@ -72,15 +72,6 @@ QImage pictureOfName(const QString &name)
     return rowPicture(stage.outline, 0);
 }
 
-/// The tooltip at a place of the outline, as it reads.
-QString toolTipAt(const TreeStage &stage, QPoint at)
-{
-    QToolTip::hideText();
-    QHelpEvent help(QEvent::ToolTip, at, stage.pane().mapToGlobal(at));
-    QApplication::sendEvent(&stage.pane(), &help);
-    return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
-}
-
 } // namespace
 
 void tst_myoutlinelooks::theOutlineIsBlackWithRowsOfOneHeight()
@@ -107,6 +98,27 @@ void tst_myoutlinelooks::everyTextIsOrange()
     }
 }
 
+void tst_myoutlinelooks::theTextIsNarrowAndIndented()
+{
+    TreeStage stage;
+    stage.clickArrow("Movement Keys");
+    QFont letters = systemFont(11);
+    letters.setStretch(88);
+    const auto expected = [&](int left, const char *name) {
+        QPixmap row(175, 18);
+        row.fill(Qt::black);
+        QPainter painter(&row);
+        painter.setFont(letters);
+        painter.setPen(kOrange);
+        painter.drawText(QRect(left, 0, 140, 18), Qt::AlignVCenter, QLatin1String(name));
+        painter.end();
+        return row.toImage().convertToFormat(QImage::Format_ARGB32).copy(10, 0, 150, 18);
+    };
+    const auto drawn = [&](int row) { return rowPicture(stage.outline, row).copy(10, 0, 150, 18); };
+    QCOMPARE(drawn(0), expected(12, "Movement Keys"));
+    QCOMPARE(drawn(8), expected(22, "Jump"));
+}
+
 void tst_myoutlinelooks::theSelectedRowIsDarkGrey()
 {
     TreeStage stage;
@@ -126,6 +138,7 @@ void tst_myoutlinelooks::theArrowTurnsDownWhenTheCategoryIsOpen()
                                    [](const QColor &pixel) { return pixel.value() > 100; });
     };
     const QRect closed = arrow(0);
+    QVERIFY(!extentOf(rowPicture(stage.outline, 0).copy(closed), QColor(201, 162, 92)).isEmpty());
     QVERIFY(closed.height() > closed.width());
     stage.clickArrow("Movement Keys");
     const QRect open = arrow(0);
@@ -225,7 +238,7 @@ void tst_myoutlinelooks::aLongNameLosesItsMiddle()
 void tst_myoutlinelooks::aCutNameIsToldByItsTooltip()
 {
     const TreeStage stage(std::make_shared<LongNames>(QStringList{kLongName}));
-    QCOMPARE(toolTipAt(stage, {60, 9}), kLongName);
+    QCOMPARE(toolTipAt(stage.pane(), {60, 9}), kLongName);
 }
 
 void tst_myoutlinelooks::theTooltipComesUpUnderThePointer()
@@ -241,13 +254,30 @@ void tst_myoutlinelooks::theTooltipComesUpUnderThePointer()
 void tst_myoutlinelooks::aNameThatFitsHasNoTooltip()
 {
     const TreeStage stage(std::make_shared<LongNames>(QStringList{QStringLiteral("Jump")}));
-    QCOMPARE(toolTipAt(stage, {20, 9}), QString());
+    QCOMPARE(toolTipAt(stage.pane(), {20, 9}), QString());
 }
 
 void tst_myoutlinelooks::belowTheRowsThereIsNoTooltip()
 {
     const TreeStage stage(std::make_shared<LongNames>(QStringList{kLongName}));
-    QCOMPARE(toolTipAt(stage, {60, 100}), QString());
+    QCOMPARE(toolTipAt(stage.pane(), {60, 100}), QString());
+}
+
+void tst_myoutlinelooks::aNameEndsBesideTheScrollBar()
+{
+    // As wide as a row without a scroll bar has room for.
+    TreeStage ruler;
+    QString name;
+    while (ruler.outline.fontMetrics().horizontalAdvance(name + u'i') <= 161)
+        name += u'i';
+    const TreeStage alone(std::make_shared<LongNames>(QStringList{name}));
+    QCOMPARE(toolTipAt(alone.pane(), {60, 9}), QString());
+    TreeStage many(std::make_shared<LongNames>(QStringList(20, name)));
+    QTRY_VERIFY(many.outline.verticalScrollBar()->isVisible());
+    QCOMPARE(toolTipAt(many.pane(), {60, 9}), name);
+    // Where no bar lies over it: the pane alone.
+    const QImage row = shown(many.pane()).copy(0, 0, 175, 18);
+    QVERIFY(extentOfOther(row, Qt::black).right() < 168);
 }
 
 KYR_GUI_TEST(tst_myoutlinelooks)

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aRefusedDragChoosesNothing();
     void theDragPictureIsTheRowAtHalfOpacity_data();
     void theDragPictureIsTheRowAtHalfOpacity();
+    void theDragPictureHasAGoldenEdge();
     void theRowIsHeldWhereItWasPressed();
     void aScrolledRowIsHeldWhereItWasPressed();
     void ofARowPartlyOutOfSightThatPartIsShown();
@@ -90,6 +91,7 @@ void tst_outlinedrag::aDragCarriesTheRowsIndex()
     QTEST(drag->mimeData()->text(), "text");
     QCOMPARE(drag->mimeData()->formats(), QStringList{QStringLiteral("text/plain")});
     QCOMPARE(drag->source(), &stage.pane());
+    QCOMPARE(drag->supportedActions(), Qt::DropActions(Qt::CopyAction));
 }
 
 void tst_outlinedrag::theFirstCategoryIsNotDragged()
@@ -191,6 +193,19 @@ void tst_outlinedrag::theDragPictureIsTheRowAtHalfOpacity()
     QVERIFY(text.left() > 15 && text.width() > 15 && text.right() < 70);
 }
 
+void tst_outlinedrag::theDragPictureHasAGoldenEdge()
+{
+    const OutlineDragStage stage;
+    const QDrag *const drag = stage.drag("Jump");
+    QVERIFY(drag);
+    const QImage picture = drag->pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
+    const QColor edge = picture.pixelColor(0, 0);
+    QVERIFY(edge.red() > 160 && qAbs(edge.hsvHue() - kGold.hsvHue()) <= 2);
+    const QRect inner = picture.rect().adjusted(1, 1, -1, -1);
+    QCOMPARE(extentOfOther(picture, edge), inner);
+    QVERIFY(extentOf(picture.copy(inner), edge).isEmpty());
+}
+
 void tst_outlinedrag::theRowIsHeldWhereItWasPressed()
 {
     const OutlineDragStage stage;
@@ -218,6 +233,8 @@ void tst_outlinedrag::ofARowPartlyOutOfSightThatPartIsShown()
     QVERIFY(drag);
     QCOMPARE(drag->mimeData()->text(), QStringLiteral("4104"));
     QCOMPARE(drag->pixmap().size(), QSize(175, 11));
+    const QImage picture = drag->pixmap().toImage();
+    QCOMPARE(picture.pixelColor(100, 10), picture.pixelColor(100, 0)); // its edge, all around
     QCOMPARE(drag->hotSpot(), QPoint(47, 5));
 }
 

@@ -11,6 +11,8 @@ class tst_gamemode : public QObject
 private Q_SLOTS:
     void theCheckBoxFlipsTheMode();
     void theMouseButtonsAreDisabledWhileItIsOn();
+    void anyNumberButZeroMeansThatItIsOn_data();
+    void anyNumberButZeroMeansThatItIsOn();
     void disabledMouseButtonsShowTheirDisabledFace_data() { buttonRows(); }
     void disabledMouseButtonsShowTheirDisabledFace();
     void disabledMouseButtonsIgnoreEverything_data() { buttonRows(); }
@@ -32,20 +34,21 @@ private:
 
 namespace {
 
+/// The numbers of the mouse buttons that are enabled.
+std::vector<int> enabledButtons(const MainWindowStage &stage)
+{
+    std::vector<int> numbers;
+    for (int number = 1; number <= 14; ++number) {
+        if (stage.mouseButton(number).isEnabled())
+            numbers.push_back(number);
+    }
+    return numbers;
+}
+
 struct GameStage : MainWindowStage
 {
     GameStage() { toggle(); }
     void toggle() const { pointer::click(button("chkGameMode")); }
-
-    std::vector<int> enabledButtons() const
-    {
-        std::vector<int> numbers;
-        for (int number = 1; number <= 14; ++number) {
-            if (mouseButton(number).isEnabled())
-                numbers.push_back(number);
-        }
-        return numbers;
-    }
 };
 
 } // namespace
@@ -63,9 +66,30 @@ void tst_gamemode::theCheckBoxFlipsTheMode()
 void tst_gamemode::theMouseButtonsAreDisabledWhileItIsOn()
 {
     const GameStage stage;
-    QCOMPARE(stage.enabledButtons(), std::vector<int>{});
+    QCOMPARE(enabledButtons(stage), std::vector<int>{});
     stage.toggle();
-    QCOMPARE(stage.enabledButtons().size(), std::size_t{14});
+    QCOMPARE(enabledButtons(stage).size(), std::size_t{14});
+}
+
+void tst_gamemode::anyNumberButZeroMeansThatItIsOn_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<bool>("isOn");
+    QTest::newRow("0") << 0 << false;
+    QTest::newRow("1") << 1 << true;
+    QTest::newRow("2") << 2 << true;
+    QTest::newRow("-1") << -1 << true;
+}
+
+void tst_gamemode::anyNumberButZeroMeansThatItIsOn()
+{
+    QFETCH(int, number);
+    QFETCH(bool, isOn);
+    const MainWindowStage stage(settingsWith({{"GAME_MODE", number}}));
+    QCOMPARE(stage.button("chkGameMode").isChecked(), isOn);
+    QCOMPARE(enabledButtons(stage).empty(), isOn);
+    pointer::click(stage.button("chkGameMode"));
+    QCOMPARE(m_Config.GAME_MODE, isOn ? 0U : 1U);
 }
 
 void tst_gamemode::disabledMouseButtonsShowTheirDisabledFace()
@@ -109,7 +133,7 @@ void tst_gamemode::captionsStayCurrent()
     m_Config.PROFILE[1].BUTTON[3] = 0x7009;
     stage.reportProfile(2);
     QCOMPARE(stage.mouseButton(4).captionText(), QStringLiteral("Screen Shot"));
-    QCOMPARE(stage.enabledButtons(), std::vector<int>{});
+    QCOMPARE(enabledButtons(stage), std::vector<int>{});
 }
 
 void tst_gamemode::theModeIsNeitherSavedNorAChange()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void returnWithoutARowAssignsNothing();
     void choosingARowMovesTheMemoryGauge();
     void aChoiceGoesIntoTheProfileShownByThen();
+    void aListOfAnotherNumberOnlyCountsAsAChange();
 };
 
 void tst_quicklist::aRightClickOpensTheListUnderTheButton_data()
@@ -66,6 +67,9 @@ void tst_quicklist::theListHasItsRows()
     QCOMPARE(list.tag(), 8192);
     QCOMPARE(list.getcursel(), -1);
     QCOMPARE(list.size(), QSize(97, 140));
+    QCOMPARE(list.window()->windowTitle(), QStringLiteral("Basic Functions"));
+    QVERIFY(
+        !list.window()->testAttribute(Qt::WA_ShowWithoutActivating)); // it asks for the keyboard
 }
 
 void tst_quicklist::aRightClickSelectsTheButton()
@@ -200,6 +204,22 @@ void tst_quicklist::aChoiceGoesIntoTheProfileShownByThen()
     QCOMPARE(m_Config.PROFILE[2].BUTTON[4], 4U);
     QCOMPARE(m_Config.PROFILE[0].BUTTON[4], 9U);
     QCOMPARE(stage.mouseButton(5).captionText(), QStringLiteral("Mouse Button 4"));
+}
+
+void tst_quicklist::aListOfAnotherNumberOnlyCountsAsAChange()
+{
+    QuickListStage stage;
+    pngListBox &list = stage.open(5);
+    std::fill_n(m_Config.PROFILE[0].BUTTON, 6, 3U);
+    list.setTag(8193);
+    clickRow(list, 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_Config.PROFILE[0].BUTTON[4], 3U);
+    QCOMPARE(stage.mouseButton(5).captionText(), QStringLiteral("Disable/Clear"));
+    QCOMPARE(openLists().size(), std::size_t{1});
+    QCOMPARE(stage.log.lines, std::vector<std::string>());
+    QVERIFY(stage.applyIsEnabled());
+    QCOMPARE(stage.view().memoryUsage(), 1U); // counted again
 }
 
 KYR_GUI_TEST(tst_quicklist)

@@ -14,7 +14,25 @@ private Q_SLOTS:
     void aListOpenedRightAfterAChoiceStays();
     void theMainWindowGetsTheKeyboardBack();
     void theProgramMayEndWithTheListOpen();
+    void aClosedListIsGone();
+    void theSecondPressOfADoubleClickReachesNoButton_data();
+    void theSecondPressOfADoubleClickReachesNoButton();
 };
+
+namespace {
+
+void pressAndRelease(const MainWindowStage &stage, QPoint onScreen, quint64 at)
+{
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const bool isPress = type == QEvent::MouseButtonPress;
+        QMouseEvent event(type, stage.window().mapFromGlobal(onScreen), onScreen, Qt::LeftButton,
+                          isPress ? Qt::LeftButton : Qt::NoButton, {});
+        event.setTimestamp(at);
+        QApplication::sendEvent(stage.window().windowHandle(), &event);
+    }
+}
+
+} // namespace
 
 void tst_quicklistclosing::escapeClosesTheListWithoutAChoice()
 {
@@ -92,6 +110,42 @@ void tst_quicklistclosing::theProgramMayEndWithTheListOpen()
     stage.open(3);
     stage.interface.reset();
     QVERIFY(openLists().empty());
+}
+
+void tst_quicklistclosing::aClosedListIsGone()
+{
+    const QuickListStage stage;
+    const QPointer<QWidget> chosen = stage.open(3).window();
+    clickRow(*chosen->findChild<pngListBox *>(QStringLiteral("pListboxView")), 0);
+    QTRY_VERIFY(!chosen);
+    const QPointer<QWidget> left = stage.open(3).window();
+    QTest::keyClick(left->windowHandle(), Qt::Key_Escape);
+    QTRY_VERIFY(!left);
+}
+
+void tst_quicklistclosing::theSecondPressOfADoubleClickReachesNoButton_data()
+{
+    QTest::addColumn<int>("since");
+    QTest::addColumn<int>("selected");
+    QTest::newRow("in time") << 1 << 5;
+    QTest::newRow("too late") << QApplication::doubleClickInterval() << 8;
+}
+
+void tst_quicklistclosing::theSecondPressOfADoubleClickReachesNoButton()
+{
+    QFETCH(int, since);
+    const QuickListStage stage;
+    pngListBox &list = stage.open(5);
+    const QPoint there = list.mapToGlobal(rowPoint(2));
+    QVERIFY(stage.mouseButton(8).rect().contains(stage.mouseButton(8).mapFromGlobal(there)));
+    QCursor::setPos(there);
+    // Sent directly: the event loop deletes the list.
+    QTest::mouseClick(&list, Qt::LeftButton, {}, rowPoint(2));
+    const quint64 released = list.releasedAt();
+    QTRY_VERIFY(openLists().empty());
+    pressAndRelease(stage, there, released + static_cast<quint64>(since));
+    QTEST(stage.view().currentButton() + 1, "selected");
+    QCOMPARE(m_Config.PROFILE[0].BUTTON[4], 3U);
 }
 
 KYR_GUI_TEST(tst_quicklistclosing)

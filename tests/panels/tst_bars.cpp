@@ -27,6 +27,8 @@ private Q_SLOTS:
     void theKeyboardOpensAndClosesABar_data() { bars(); }
     void theKeyboardOpensAndClosesABar();
     void theRightHandleTakesTheKeyboardBack();
+    void theRightHandleLeavesAKeyboardThatWentOnUnderWay();
+    void aRightHandleThatWasNotReachedByKeyTakesItBackWithoutAFrame();
     void aClickOnTheHandleLeavesTheKeyboard_data() { bars(); }
     void aClickOnTheHandleLeavesTheKeyboard();
     void aDragOnTheHandleMovesNothing_data() { bars(); }
@@ -39,6 +41,10 @@ private Q_SLOTS:
     void aRestoreWithOpenBarsLeavesThemOpen();
     void aBarThatTheDesktopAsksToCloseStays_data() { bars(); }
     void aBarThatTheDesktopAsksToCloseStays();
+    void anOpenBarThatTheDesktopAsksToCloseClosesToItsHandle_data() { bars(); }
+    void anOpenBarThatTheDesktopAsksToCloseClosesToItsHandle();
+    void anotherControlOpensNoBar_data() { bars(); }
+    void anotherControlOpensNoBar();
 
 private:
     static void bars();
@@ -225,6 +231,35 @@ void tst_bars::theRightHandleTakesTheKeyboardBack()
     QVERIFY(other.hasFocus());
 }
 
+void tst_bars::theRightHandleLeavesAKeyboardThatWentOnUnderWay()
+{
+    BarsStage stage;
+    HoverButton other(&stage.content(kRight), {20, 20, 97, 27});
+    other.show();
+    keyboard::tabTo(stage.toggle(kRight));
+    keyboard::press(Qt::Key_Space);
+    stage.passHalf();
+    keyboard::tabTo(other);
+    stage.arrive();
+    QVERIFY(stage.toggle(kRight).isVisible());
+    QVERIFY(other.hasFocus());
+}
+
+void tst_bars::aRightHandleThatWasNotReachedByKeyTakesItBackWithoutAFrame()
+{
+    BarsStage stage;
+    HoverButton &toggle = stage.toggle(kRight);
+    keyboard::tabTo(toggle); // for the window
+    stage.content(kRight).setFocusPolicy(Qt::StrongFocus);
+    stage.content(kRight).setFocus();
+    toggle.setFocus(Qt::OtherFocusReason);
+    for (int way = 0; way < 2; ++way) {
+        stage.clickToggle(kRight);
+        QVERIFY(toggle.hasFocus());
+        QVERIFY(!showsFocusFrame(toggle));
+    }
+}
+
 void tst_bars::aClickOnTheHandleLeavesTheKeyboard()
 {
     QFETCH(const KnownBar *, known);
@@ -309,10 +344,42 @@ void tst_bars::aRestoreWithOpenBarsLeavesThemOpen()
 void tst_bars::aBarThatTheDesktopAsksToCloseStays()
 {
     QFETCH(const KnownBar *, known);
-    const BarsStage stage;
+    BarsStage stage;
     stage.bar(*known).windowHandle()->close();
+    stage.arrive();
     QVERIFY(stage.bar(*known).isVisible());
+    QVERIFY(stage.lies(*known, known->shut));
     QVERIFY(stage.program.window().isVisible());
+    QCOMPARE(stage.program.quits, 0);
+}
+
+void tst_bars::anOpenBarThatTheDesktopAsksToCloseClosesToItsHandle()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    stage.clickToggle(*known);
+    stage.bar(*known).windowHandle()->close();
+    stage.arrive();
+    QVERIFY(stage.bar(*known).isVisible());
+    QVERIFY(stage.lies(*known, known->shut));
+    QCOMPARE(stage.program.quits, 0);
+    stage.clickToggle(*known);
+    QVERIFY(stage.lies(*known, known->open));
+}
+
+void tst_bars::anotherControlOpensNoBar()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    stage.clickToggle(*known);
+    HoverButton other(&stage.content(*known), {20, 20, 97, 27});
+    other.setTag(known->tag + 1);
+    other.setAction({static_cast<BarView *>(&stage.content(*known)), &BarView::buttonAction});
+    other.show();
+    other.raise();
+    pointer::click(other);
+    stage.arrive();
+    QVERIFY(stage.lies(*known, known->open));
 }
 
 KYR_GUI_TEST(tst_bars)

@@ -1,3 +1,4 @@
+#include "controls/functionlistpanel.h"
 #include "listedfunctions.h"
 #include "support/suite.h"
 
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void everyRowCanBeDragged();
     void aSelectionOutlivesTheCollapse_data() { knownListRows(); }
     void aSelectionOutlivesTheCollapse();
+    void anotherListIsIgnored_data() { knownListRows(); }
+    void anotherListIsIgnored();
 };
 
 namespace {
@@ -223,6 +226,23 @@ void tst_functionlists::aSelectionOutlivesTheCollapse()
     stage.clickHeader(known->id);
     stage.clickHeader(known->id);
     QCOMPARE(stage.choices.getcursel(), 4);
+}
+
+void tst_functionlists::anotherListIsIgnored()
+{
+    QFETCH(const KnownList *, known);
+    ListedStage stage(*known);
+    auto &panel = static_cast<FunctionListPanel &>(stage.panel(known->id));
+    pngListBox other(&panel, {0, 0, 175, 220});
+    other.setTag(kMacroListTag);
+    other.AddString(QStringLiteral("another row"));
+    other.setChangeAction({&panel, &FunctionListPanel::ListboxAction});
+    other.show();
+    PanelsStage::clickRow(other, 0, 20);
+    QCOMPARE(other.getcursel(), 0);
+    QCOMPARE(PanelsStage::code(ListedStage::kButton), 9U);
+    QCOMPARE(stage.program.log.lines, std::vector<std::string>());
+    QVERIFY(!stage.program.applyIsEnabled());
 }
 
 KYR_GUI_TEST(tst_functionlists)

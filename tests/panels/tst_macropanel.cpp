@@ -1,4 +1,5 @@
 #include "macrostage.h"
+#include "support/paintwatch.h"
 #include "support/suite.h"
 
 /// The panel with the macros of the current profile.
@@ -17,6 +18,8 @@ private Q_SLOTS:
     void aProfileWithAsManyMacrosKeepsTheSelectedRow();
     void theListGrowsBeyondElevenRows_data();
     void theListGrowsBeyondElevenRows();
+    void aListThatGetsEmptyIsDrawnAgain();
+    void theScrollBarTakesNoRoom();
     void newAndDeleteAreThereButDisabled();
     void newAndDeleteShowOnlyOnABarThatStandsOpen();
 };
@@ -135,6 +138,27 @@ void tst_macropanel::theListGrowsBeyondElevenRows()
     QCOMPARE(stage.macros().size(), QSize(175, height));
     QCOMPARE(stage.scroll().verticalScrollBar()->maximum(), height - 240);
     QVERIFY(!stage.scroll().horizontalScrollBar()->isVisible());
+}
+
+void tst_macropanel::aListThatGetsEmptyIsDrawnAgain()
+{
+    MacroStage stage(2);
+    stage.openAt(PanelId::Macro);
+    QCoreApplication::processEvents();
+    const PaintWatch watch(stage.macros());
+    stage.program.reportProfile(5);
+    QCOMPARE(stage.rows(), QStringList());
+    QTRY_VERIFY(watch.hasPainted({40, 10}));
+}
+
+void tst_macropanel::theScrollBarTakesNoRoom()
+{
+    MacroStage stage(50);
+    stage.openAt(PanelId::Macro);
+    const QScrollBar &bar = *stage.scroll().verticalScrollBar();
+    QTRY_VERIFY(bar.isVisible());
+    QCOMPARE(stage.scroll().viewport()->size(), QSize(175, 240));
+    QCOMPARE(QRect(bar.mapTo(&stage.scroll(), QPoint()), bar.size()), QRect(168, 0, 7, 240));
 }
 
 void tst_macropanel::newAndDeleteAreThereButDisabled()

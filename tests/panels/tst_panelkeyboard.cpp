@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aClosingBarKeepsTheKeyboard();
     void aClosingBarKeepsTheKeyboardOfAKey_data();
     void aClosingBarKeepsTheKeyboardOfAKey();
+    void aClosingBarLetsTheMacroPanelsKeyboardGo();
 };
 
 namespace {
@@ -126,6 +127,7 @@ void tst_panelkeyboard::aCollapsingPanelsListGivesTheKeyboardToItsKey()
     keyboard::tabTo(stage.list(known->name));
     stage.clickHeader(known->id);
     QVERIFY(stage.expandKey(known->id).hasFocus());
+    QVERIFY(!showsFocusFrame(stage.expandKey(known->id))); // it was not brought there by key
     QCOMPARE(QApplication::activeWindow(), &stage.right());
 }
 
@@ -182,6 +184,17 @@ void tst_panelkeyboard::aClosingBarKeepsTheKeyboardOfAKey()
     QCOMPARE(QApplication::activeWindow(), &stage.right());
     QVERIFY(!stage.expandKey(id).hasFocus());
     QCOMPARE(tab().section(QLatin1Char('/'), 0, 1), QStringLiteral("RightBar/btnToggle"));
+}
+
+/// The macro panel hides as the bar sets out, before the others do.
+void tst_panelkeyboard::aClosingBarLetsTheMacroPanelsKeyboardGo()
+{
+    PanelsStage stage;
+    stage.toggleRight();
+    keyboard::tabTo(stage.expandKey(PanelId::Macro));
+    pointer::click(stage.toggle(kRightBar));
+    QVERIFY(!stage.right().focusWidget());
+    QCOMPARE(QApplication::activeWindow(), &stage.right());
 }
 
 KYR_GUI_TEST(tst_panelkeyboard)

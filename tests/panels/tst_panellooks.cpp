@@ -11,9 +11,13 @@ class tst_panellooks : public QObject
 private Q_SLOTS:
     void theHeaderIsAGreyStrip_data() { panels(); }
     void theHeaderIsAGreyStrip();
-    void theTitleIsWhite_data() { panels(); }
-    void theTitleIsWhite();
+    void theHeaderReachesThePanelsTop_data() { panels(); }
+    void theHeaderReachesThePanelsTop();
+    void theTitleStandsInTheHeader_data() { panels(); }
+    void theTitleStandsInTheHeader();
     void aPlusStandsOnACollapsedAndAMinusOnAnExpandedPanel();
+    void theButtonsOfTheMacroPanelHaveTheirFace();
+    void besideTheTreePanelsPartsTheSkinShows();
     void theGroundIsBlack_data() { knownListRows(); }
     void theGroundIsBlack();
     void theRowsAreGoldenOnBlack_data() { knownListRows(); }
@@ -36,11 +40,17 @@ constexpr QColor kRowGrey(41, 41, 41);
 struct KnownStrip
 {
     PanelId id;
-    int bottom; ///< its last line
+    int top;    ///< its first line, which catches the light
+    int bottom; ///< its last one
+    int title;  ///< the first line of the title's place
 };
 
 constexpr KnownStrip kKnownStrips[] = {
-    {PanelId::Tree, 29}, {PanelId::Cpi, 26}, {PanelId::Profile, 26}, {PanelId::Macro, 49}};
+    {PanelId::Tree, 2, 29, 10},
+    {PanelId::Cpi, 0, 26, 8},
+    {PanelId::Profile, 0, 26, 8},
+    {PanelId::Macro, 2, 49, 8},
+};
 
 /// A key's face as it is drawn alone.
 QImage faceOn(const HoverButton &key, const char *name)
@@ -56,10 +66,12 @@ QImage faceOn(const HoverButton &key, const char *name)
 void tst_panellooks::panels()
 {
     QTest::addColumn<PanelId>("id");
+    QTest::addColumn<int>("top");
     QTest::addColumn<int>("bottom");
+    QTest::addColumn<int>("title");
     for (const KnownStrip &strip : kKnownStrips)
         QTest::newRow(kKnownPanels[static_cast<std::size_t>(strip.id)].title)
-            << strip.id << strip.bottom;
+            << strip.id << strip.top << strip.bottom << strip.title;
 }
 
 void tst_panellooks::theHeaderIsAGreyStrip()
@@ -76,15 +88,35 @@ void tst_panellooks::theHeaderIsAGreyStrip()
     QVERIFY(panel.pixelColor(176, bottom + 1) != kStripGrey);
 }
 
-void tst_panellooks::theTitleIsWhite()
+void tst_panellooks::theHeaderReachesThePanelsTop()
 {
     QFETCH(PanelId, id);
+    QFETCH(int, top);
+    QFETCH(int, bottom);
+    PanelsStage stage;
+    stage.openAt(id);
+    const QImage column = shown(stage.panel(id)).copy(4, 0, 1, bottom + 1); // left of the title
+    QCOMPARE(extentOf(column, kStripGrey), QRect(0, top + 1, 1, bottom - top));
+    QCOMPARE(column.pixelColor(0, top).value(), 43); // the light on it
+}
+
+void tst_panellooks::theTitleStandsInTheHeader()
+{
+    QFETCH(PanelId, id);
+    QFETCH(int, title);
     PanelsStage stage;
     stage.toggleRight();
-    const QRect title(4, 4, 140, 20);
-    const QImage panel = shown(stage.panel(id)).copy(title);
-    QVERIFY(brightest(panel).value() > 230);
-    QCOMPARE(brightest(panel).hsvSaturation(), 0);
+    const QString text = QLatin1String(kKnownPanels[static_cast<std::size_t>(id)].title);
+    const QRect place(9, title, 145, 15); // as far as the plus
+    QPixmap expected(177, 50);
+    expected.fill(kStripGrey);
+    QPainter painter(&expected);
+    painter.setFont(systemFont(11));
+    painter.setPen(Qt::white);
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, text);
+    painter.end();
+    QCOMPARE(shown(stage.panel(id)).copy(place),
+             expected.toImage().convertToFormat(QImage::Format_ARGB32).copy(place));
 }
 
 void tst_panellooks::aPlusStandsOnACollapsedAndAMinusOnAnExpandedPanel()
@@ -99,6 +131,28 @@ void tst_panellooks::aPlusStandsOnACollapsedAndAMinusOnAnExpandedPanel()
         stage.clickHeader(known.id);
         QCOMPARE(shown(key), faceOn(key, "add"));
     }
+}
+
+void tst_panellooks::theButtonsOfTheMacroPanelHaveTheirFace()
+{
+    PanelsStage stage;
+    stage.toggleRight();
+    for (const auto &[name, title] : {std::pair("btnNew", "New"), {"btnDelete", "Delete"}}) {
+        auto &button =
+            *static_cast<HoverButton *>(PanelsStage::part(&stage.panel(PanelId::Macro), name));
+        QCOMPARE(button.accessibleName(), QLatin1String(title));
+        button.setCaptionText({});
+        QCOMPARE(shown(button), faceOn(button, "new_normal"));
+    }
+}
+
+void tst_panellooks::besideTheTreePanelsPartsTheSkinShows()
+{
+    PanelsStage stage;
+    stage.toggleRight();
+    const QRect beside(0, 461 - 376 - 30, 2, 30); // left of the header
+    const QImage bar = shown(stage.content(kRightBar));
+    QCOMPARE(bar.copy(beside), skin("rightN").toImage().convertToFormat(bar.format()).copy(beside));
 }
 
 void tst_panellooks::theGroundIsBlack()

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void aWindowMadeKeyHasTheKeyboard();
     void theKeyboardOfAnotherProgramIsLeftAlone();
     void aWindowOrderedFrontIsShownWithoutAskingForTheKeyboard();
+    void theKeyboardWithinAPartIsFound();
+    void theKeyboardWithinAPartOfAnotherWindowIsFoundToo();
 };
 
 namespace {
@@ -164,6 +166,39 @@ void tst_keywindow::aWindowOrderedFrontIsShownWithoutAskingForTheKeyboard()
     orderFront(window);
     QVERIFY(window.isVisible());
     QVERIFY(window.testAttribute(Qt::WA_ShowWithoutActivating));
+}
+
+void tst_keywindow::theKeyboardWithinAPartIsFound()
+{
+    WindowStage stage;
+    QWidget part(stage.first.get());
+    QWidget inner(&part);
+    QWidget beside(stage.first.get());
+    part.show();
+    beside.show();
+    QCOMPARE(keyboardWithin(part), nullptr);
+    inner.setFocus();
+    QCOMPARE(keyboardWithin(part), &inner);
+    QCOMPARE(keyboardWithin(inner), &inner);
+    QCOMPARE(keyboardWithin(beside), nullptr);
+    part.setFocus();
+    QCOMPARE(keyboardWithin(part), &part);
+    QCOMPARE(keyboardWithin(inner), nullptr);
+    beside.setFocus();
+    QCOMPARE(keyboardWithin(part), nullptr);
+}
+
+/// It would come back there as soon as the window has the keyboard again.
+void tst_keywindow::theKeyboardWithinAPartOfAnotherWindowIsFoundToo()
+{
+    WindowStage stage;
+    QWidget part(stage.first.get());
+    QWidget inner(&part);
+    part.show();
+    inner.setFocus();
+    WindowStage::activate(stage.second);
+    QVERIFY(!inner.hasFocus());
+    QCOMPARE(keyboardWithin(part), &inner);
 }
 
 KYR_GUI_TEST(tst_keywindow)
