@@ -38,6 +38,14 @@ inline constexpr KnownBar kKnownBars[] = {
 };
 // clang-format on
 
+/// Each bar as a row of a test's data.
+inline void barRows()
+{
+    QTest::addColumn<const KnownBar *>("known");
+    for (const KnownBar &known : kKnownBars)
+        QTest::newRow(known.window) << &known;
+}
+
 /// The program with its bars; slides take 200 ms of the clock's time.
 struct BarsStage
 {

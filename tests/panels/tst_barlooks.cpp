@@ -10,23 +10,20 @@ class tst_barlooks : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void anOpenBarShowsItsWholePicture_data() { bars(); }
+    void anOpenBarShowsItsWholePicture_data() { barRows(); }
     void anOpenBarShowsItsWholePicture();
-    void aShutBarShowsThePicturesOuterEdge_data() { bars(); }
+    void aShutBarShowsThePicturesOuterEdge_data() { barRows(); }
     void aShutBarShowsThePicturesOuterEdge();
-    void theTitleStandsOnTheOpenBar_data() { bars(); }
+    void theTitleStandsOnTheOpenBar_data() { barRows(); }
     void theTitleStandsOnTheOpenBar();
-    void theHandleTellsWhetherTheBarIsOpen_data() { bars(); }
+    void theHandleTellsWhetherTheBarIsOpen_data() { barRows(); }
     void theHandleTellsWhetherTheBarIsOpen();
-    void theHandleLightsUpUnderThePointer_data() { bars(); }
+    void theHandleLightsUpUnderThePointer_data() { barRows(); }
     void theHandleLightsUpUnderThePointer();
-    void theHandleLightsUpWhilePressed_data() { bars(); }
+    void theHandleLightsUpWhilePressed_data() { barRows(); }
     void theHandleLightsUpWhilePressed();
-    void theHandleChangesAsTheBarSetsOut_data() { bars(); }
+    void theHandleChangesAsTheBarSetsOut_data() { barRows(); }
     void theHandleChangesAsTheBarSetsOut();
-
-private:
-    static void bars();
 };
 
 namespace {
@@ -66,13 +63,6 @@ QSize pictureSize(const KnownBar &known)
 }
 
 } // namespace
-
-void tst_barlooks::bars()
-{
-    QTest::addColumn<const KnownBar *>("known");
-    for (const KnownBar &known : kKnownBars)
-        QTest::newRow(known.window) << &known;
-}
 
 void tst_barlooks::anOpenBarShowsItsWholePicture()
 {

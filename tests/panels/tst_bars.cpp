@@ -9,45 +9,37 @@ class tst_bars : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aBarIsATitledWindowOfTheMainWindow_data() { bars(); }
+    void aBarIsATitledWindowOfTheMainWindow_data() { barRows(); }
     void aBarIsATitledWindowOfTheMainWindow();
-    void atFirstTheBarsAreShut_data() { bars(); }
+    void atFirstTheBarsAreShut_data() { barRows(); }
     void atFirstTheBarsAreShut();
-    void aClickOnTheHandleOpensAndAnotherCloses_data() { bars(); }
+    void aClickOnTheHandleOpensAndAnotherCloses_data() { barRows(); }
     void aClickOnTheHandleOpensAndAnotherCloses();
-    void aRightClickOnTheHandleDoesNothing_data() { bars(); }
+    void aRightClickOnTheHandleDoesNothing_data() { barRows(); }
     void aRightClickOnTheHandleDoesNothing();
     void aClickUnderWayTurnsTheBarRound_data();
     void aClickUnderWayTurnsTheBarRound();
-    void theHandleHasItsTagAndPlace_data() { bars(); }
+    void theHandleHasItsTagAndPlace_data() { barRows(); }
     void theHandleHasItsTagAndPlace();
     void theRightHandleIsHiddenUnderWay();
     void theOtherHandlesShowUnderWay_data();
     void theOtherHandlesShowUnderWay();
-    void theKeyboardOpensAndClosesABar_data() { bars(); }
+    void theKeyboardOpensAndClosesABar_data() { barRows(); }
     void theKeyboardOpensAndClosesABar();
     void theRightHandleTakesTheKeyboardBack();
     void theRightHandleLeavesAKeyboardThatWentOnUnderWay();
     void aRightHandleThatWasNotReachedByKeyTakesItBackWithoutAFrame();
-    void aClickOnTheHandleLeavesTheKeyboard_data() { bars(); }
+    void aClickOnTheHandleLeavesTheKeyboard_data() { barRows(); }
     void aClickOnTheHandleLeavesTheKeyboard();
-    void aDragOnTheHandleMovesNothing_data() { bars(); }
-    void aDragOnTheHandleMovesNothing();
-    void aDragByABarMovesTheWholeArrangement_data() { bars(); }
-    void aDragByABarMovesTheWholeArrangement();
-    void aDragByABarIsLimitedByTheMainWindowsTop_data() { bars(); }
-    void aDragByABarIsLimitedByTheMainWindowsTop();
-    void aDragByTheMainWindowTakesOpenBarsAlong();
     void aRestoreWithOpenBarsLeavesThemOpen();
-    void aBarThatTheDesktopAsksToCloseStays_data() { bars(); }
+    void aBarThatTheDesktopAsksToCloseStays_data() { barRows(); }
     void aBarThatTheDesktopAsksToCloseStays();
-    void anOpenBarThatTheDesktopAsksToCloseClosesToItsHandle_data() { bars(); }
+    void anOpenBarThatTheDesktopAsksToCloseClosesToItsHandle_data() { barRows(); }
     void anOpenBarThatTheDesktopAsksToCloseClosesToItsHandle();
-    void anotherControlOpensNoBar_data() { bars(); }
+    void anotherControlOpensNoBar_data() { barRows(); }
     void anotherControlOpensNoBar();
 
 private:
-    static void bars();
     static void barsWithAHandleUnderWay();
 };
 
@@ -55,29 +47,7 @@ namespace {
 
 const KnownBar &kRight = kKnownBars[1];
 
-/// Presses on the bar off its handle, moves by `way` on the screen in small moves, and back again
-/// when `andBack`; releases.
-void drag(const custumwindow &bar, QPoint way, bool andBack = false)
-{
-    constexpr int kSteps = 8;
-    const QPoint start = bar.mapToGlobal(QPoint(5, 5));
-    const auto moveTo = [&](QPoint there) { pointer::move(bar, bar.mapFromGlobal(there)); };
-    pointer::press(bar, {5, 5});
-    for (int step = 1; step <= kSteps; ++step)
-        moveTo(start + way * step / kSteps);
-    for (int step = kSteps - 1; andBack && step >= 0; --step)
-        moveTo(start + way * step / kSteps);
-    pointer::release(bar, bar.mapFromGlobal(andBack ? start : start + way));
-}
-
 } // namespace
-
-void tst_bars::bars()
-{
-    QTest::addColumn<const KnownBar *>("known");
-    for (const KnownBar &known : kKnownBars)
-        QTest::newRow(known.window) << &known;
-}
 
 void tst_bars::barsWithAHandleUnderWay()
 {
@@ -271,63 +241,6 @@ void tst_bars::aClickOnTheHandleLeavesTheKeyboard()
     stage.clickToggle(*known);
     QCOMPARE(focusPlace(), before);
     QCOMPARE(focusFrames(stage.bar(*known)), QStringList());
-}
-
-void tst_bars::aDragOnTheHandleMovesNothing()
-{
-    QFETCH(const KnownBar *, known);
-    BarsStage stage;
-    const QPoint before = stage.program.window().pos();
-    const HoverButton &toggle = stage.toggle(*known);
-    pointer::press(toggle, {8, 8});
-    pointer::move(toggle, {60, 70});
-    pointer::release(toggle, {60, 70});
-    QCOMPARE(stage.program.window().pos(), before);
-    QVERIFY(stage.lies(*known, known->shut));
-}
-
-void tst_bars::aDragByABarMovesTheWholeArrangement()
-{
-    QFETCH(const KnownBar *, known);
-    BarsStage stage;
-    const QPoint before = stage.program.window().pos();
-    drag(stage.bar(*known), {48, -24});
-    QCOMPARE(stage.program.window().pos(), before + QPoint(48, -24));
-    for (const KnownBar &bar : kKnownBars)
-        QVERIFY2(stage.lies(bar, bar.shut), bar.window);
-    stage.clickToggle(*known);
-    drag(stage.bar(*known), {-80, 40});
-    QCOMPARE(stage.program.window().pos(), before + QPoint(-32, 16));
-    QVERIFY(stage.lies(*known, known->open));
-}
-
-void tst_bars::aDragByABarIsLimitedByTheMainWindowsTop()
-{
-    QFETCH(const KnownBar *, known);
-    BarsStage stage;
-    const QPoint before = stage.program.window().pos();
-    drag(stage.bar(*known), {0, -400});
-    QCOMPARE(stage.program.window().pos(), QPoint(before.x(), 0));
-    QVERIFY(stage.lies(*known, known->shut));
-    // On its way back the pointer finds the bar where it was pressed.
-    drag(stage.bar(*known), {0, -80}, true);
-    QCOMPARE(stage.program.window().pos(), QPoint(before.x(), 0));
-}
-
-void tst_bars::aDragByTheMainWindowTakesOpenBarsAlong()
-{
-    BarsStage stage;
-    for (const KnownBar &bar : kKnownBars)
-        stage.clickToggle(bar);
-    const QPoint before = stage.program.window().pos();
-    pointer::press(stage.program.window(), {40, 300});
-    for (const QPoint step : {QPoint(10, 5), QPoint(10, 5), QPoint(-30, 60)}) {
-        pointer::move(stage.program.window(), QPoint(40, 300) + step);
-        for (const KnownBar &bar : kKnownBars)
-            QVERIFY2(stage.lies(bar, bar.open), bar.window);
-    }
-    pointer::release(stage.program.window(), {40, 300});
-    QCOMPARE(stage.program.window().pos(), before + QPoint(-10, 70));
 }
 
 void tst_bars::aRestoreWithOpenBarsLeavesThemOpen()
