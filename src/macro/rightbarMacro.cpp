@@ -28,14 +28,18 @@ constexpr int kRowsBeforeItGrows = 11;
 constexpr UpRect kNew{10, 0, 74, 27};
 constexpr UpRect kDelete{90, 0, 74, 27};
 
-/// Tab goes past the list without scrolling it: the toolkit's area would show the list's middle.
+/// Tab goes past the list without scrolling it: the toolkit's area, which is left out here, would
+/// show the list's middle.
 class ListArea : public Framed<QScrollArea>
 {
 public:
     using Framed::Framed;
 
 protected:
-    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
+    bool focusNextPrevChild(bool next) override
+    {
+        return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
+    }
 };
 
 HoverButton *makeHeaderButton(QWidget *parent, const char *name, const char *caption)

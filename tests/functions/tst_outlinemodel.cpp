@@ -59,7 +59,8 @@ void tst_outlinemodel::everyRowStandsWhereItBelongs()
         const QModelIndex last = model.index(commands - 1, 0, category);
         QCOMPARE(last.parent(), category);
         QCOMPARE(OutlineModel::itemAt(last)->getIndexId(),
-                 static_cast<std::ptrdiff_t>((known.number + 1) * 4096 + known.commands));
+                 (std::ptrdiff_t{known.number} + 1) * 4096 +
+                     static_cast<std::ptrdiff_t>(known.commands));
         QVERIFY(!model.index(commands, 0, category).isValid());
         QVERIFY(!model.index(0, 1, category).isValid());
     }

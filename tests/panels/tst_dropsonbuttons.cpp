@@ -76,7 +76,7 @@ void tst_dropsonbuttons::texts()
         QTest::newRow(name) << text << code << QString::fromLatin1(caption);
     };
     constexpr FunctionCode most = 0x7FFFFFFF;
-    constexpr qsizetype mebibyte = 1024 * 1024;
+    constexpr qsizetype mebibyte = 1 << 20;
     row("a word", "abc", 0);
     row("nothing", "", 0);
     row("only blanks", " \t\r\n ", 0);
