@@ -37,9 +37,9 @@ namespace {
 constexpr int kLength = 100; ///< of the area, and so of the bar
 
 /// A shown area with one of its bars: what goes along a bar is swapped for the level one.
-struct BarStage
+struct ScrollBarStage
 {
-    explicit BarStage(Qt::Orientation direction, int content, int length = kLength)
+    explicit ScrollBarStage(Qt::Orientation direction, int content, int length = kLength)
         : orientation(direction)
     {
         window.resize(400, 300);
@@ -118,7 +118,7 @@ void tst_scrollbars::theSliderIsAsLongAsItsShareOfTheContent()
     QFETCH(int, length);
     QFETCH(int, content);
     QFETCH(int, slider);
-    const BarStage stage(direction, content, length);
+    const ScrollBarStage stage(direction, content, length);
     QCOMPARE(stage.slider(), QRect(0, 0, 7, slider));
 }
 
@@ -139,7 +139,7 @@ void tst_scrollbars::theSliderStandsWhereTheContentDoes()
     QFETCH(Qt::Orientation, direction);
     QFETCH(int, value);
     QFETCH(int, start);
-    const BarStage stage(direction, 400);
+    const ScrollBarStage stage(direction, 400);
     QCOMPARE(stage.bar().maximum(), 300);
     stage.bar().setValue(value);
     QCOMPARE(stage.slider(), QRect(0, start, 7, 25));
@@ -147,7 +147,7 @@ void tst_scrollbars::theSliderStandsWhereTheContentDoes()
 
 void tst_scrollbars::withNothingToScrollTheSliderFillsTheBar()
 {
-    BarStage stage(Qt::Vertical, 80);
+    ScrollBarStage stage(Qt::Vertical, 80);
     stage.area.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     QTRY_VERIFY(stage.bar().isVisible());
     QCOMPARE(stage.slider(), QRect(0, 0, 7, 100));
@@ -171,7 +171,7 @@ void tst_scrollbars::theWholeRestOfTheBarPages()
 {
     QFETCH(Qt::Orientation, direction);
     QFETCH(int, at);
-    const BarStage stage(direction, 400);
+    const ScrollBarStage stage(direction, 400);
     stage.bar().setValue(150);
     stage.click(at);
     QTEST(stage.bar().value(), "value");
@@ -180,7 +180,7 @@ void tst_scrollbars::theWholeRestOfTheBarPages()
 void tst_scrollbars::theSliderIsDragged()
 {
     QFETCH(Qt::Orientation, direction);
-    const BarStage stage(direction, 400);
+    const ScrollBarStage stage(direction, 400);
     stage.press(10);
     for (const auto &[to, value] : {std::pair(11, 4), {35, 100}, {85, 300}, {200, 300}, {10, 0}}) {
         pointer::move(stage.bar(), stage.along(QPoint(3, to)));
@@ -192,7 +192,7 @@ void tst_scrollbars::theSliderIsDragged()
 void tst_scrollbars::theBarIsDrawnInTheSkinsColours()
 {
     QFETCH(Qt::Orientation, direction);
-    const BarStage stage(direction, 400);
+    const ScrollBarStage stage(direction, 400);
     const QImage picture = stage.picture();
     QCOMPARE(picture.size(), QSize(7, 100));
     QCOMPARE(extentOf(picture, QColor(13, 10, 8)), QRect(0, 0, 7, 100)); // around its corners too
@@ -205,7 +205,7 @@ void tst_scrollbars::theBarIsDrawnInTheSkinsColours()
 void tst_scrollbars::aSliderLightsUpUnderThePointerAndHeld()
 {
     QFETCH(Qt::Orientation, direction);
-    const BarStage stage(direction, 400);
+    const ScrollBarStage stage(direction, 400);
     const auto isLit = [&] { return stage.picture().pixelColor(3, 12) == QColor(224, 168, 58); };
     const auto moveTo = [&](int at) { pointer::move(stage.bar(), stage.along(QPoint(3, at))); };
     moveTo(90); // beside the slider
@@ -222,7 +222,7 @@ void tst_scrollbars::aSliderLightsUpUnderThePointerAndHeld()
 
 void tst_scrollbars::theBarsShowWhenThereIsSomethingToScroll()
 {
-    const BarStage stage(Qt::Vertical, 100);
+    const ScrollBarStage stage(Qt::Vertical, 100);
     QWidget &inside = *stage.area.widget();
     const auto visible = [&] {
         return std::pair(stage.area.verticalScrollBar()->isVisible(),
@@ -239,7 +239,7 @@ void tst_scrollbars::theBarsShowWhenThereIsSomethingToScroll()
 
 void tst_scrollbars::theBarsTakeNoRoom()
 {
-    const BarStage stage(Qt::Vertical, 400);
+    const ScrollBarStage stage(Qt::Vertical, 400);
     QTRY_VERIFY(stage.bar().isVisible());
     QCOMPARE(stage.area.viewport()->geometry(), QRect(0, 0, 60, 100));
     QCOMPARE(QRect(stage.bar().mapTo(&stage.area, QPoint()), stage.bar().size()),
