@@ -87,6 +87,12 @@ void windowcontroll::refreshMacroList()
         m_rightContent->refreshMacroList();
 }
 
+void windowcontroll::macrosChanged()
+{
+    if (m_mainContent)
+        m_mainContent->macrosChanged();
+}
+
 void windowcontroll::setMainViewApplyStatus(bool changed)
 {
     if (m_mainContent)

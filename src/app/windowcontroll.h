@@ -14,6 +14,8 @@ public:
     virtual void setApplyButtonStatus(bool changed) = 0;
     /// Gives the selected mouse button a function.
     virtual void changeCurrentButtonFunction(FunctionCode code) = 0;
+    /// The current profile's macros are others than before.
+    virtual void macrosChanged() = 0;
     /// Draws the view again.
     virtual void redraw() = 0;
 
@@ -106,6 +108,8 @@ public:
     void toggleRightBar();
     void toggleBottomBar();
 
+    /// A player has changed the current profile's macros in a side panel.
+    void macrosChanged();
     /// A function was chosen in a side panel.
     void changeSelFunction(FunctionCode code);
     /// Shows in the side panels where a function lives, opening the right bar for it.

@@ -1,5 +1,6 @@
 #include "controls/collapsiblepanel.h"
 
+#include "controls/faces.h"
 #include "platform/keywindow.h"
 
 namespace {
@@ -27,12 +28,8 @@ CollapsiblePanel::CollapsiblePanel(const PanelLook &look, QWidget *parent, UpRec
 
 HoverButton *CollapsiblePanel::AddCheckButton(UpRect frame, const Action<HoverButton *> &setAction)
 {
-    auto *const button = new HoverButton(this, frame);
-    button->setObjectName(QStringLiteral("btnExpand"));
-    button->setAccessibleName(QLatin1String(m_look.title));
-    button->setCheckable(true);
-    button->setNormalImage(SkinImage::named("add"));
-    button->setAlternateImage(SkinImage::named("minus"));
+    const ButtonRow row{.name = "btnExpand", .frame = frame, .description = m_look.title};
+    HoverButton *const button = makeCheckBox(this, row, "add", "minus");
     button->setAction(setAction);
     return button;
 }

@@ -1,5 +1,19 @@
 #include "controls/faces.h"
 
+namespace {
+
+HoverButton *makePlainButton(QWidget *parent, const ButtonRow &row)
+{
+    auto *const button = new HoverButton(parent, row.frame);
+    button->setObjectName(QLatin1String(row.name));
+    button->setAccessibleName(QLatin1String(row.description));
+    button->setTag(row.tag);
+    button->setCaptionText(QLatin1String(row.caption));
+    return button;
+}
+
+} // namespace
+
 void setFaces(HoverButton &button, const Faces &faces, UpRect frame)
 {
     button.setNormalImage(SkinImage::CopyImagefromrect(faces.normal, frame));
@@ -16,11 +30,24 @@ void setFaces(pngProgressBar &bar, const Faces &faces, UpRect frame)
 
 HoverButton *makeButton(QWidget *parent, const ButtonRow &row, const Faces &faces)
 {
-    auto *const button = new HoverButton(parent, row.frame);
-    button->setObjectName(QLatin1String(row.name));
-    button->setAccessibleName(QLatin1String(row.description));
-    button->setTag(row.tag);
-    button->setCaptionText(QLatin1String(row.caption));
+    HoverButton *const button = makePlainButton(parent, row);
     setFaces(*button, faces, row.frame);
     return button;
+}
+
+HoverButton *makePictureButton(QWidget *parent, const ButtonRow &row, const char *normal,
+                               const char *alternate)
+{
+    HoverButton *const button = makePlainButton(parent, row);
+    button->setNormalImage(SkinImage::named(normal));
+    button->setAlternateImage(SkinImage::named(alternate));
+    return button;
+}
+
+HoverButton *makeCheckBox(QWidget *parent, const ButtonRow &row, const char *normal,
+                          const char *alternate)
+{
+    HoverButton *const box = makePictureButton(parent, row, normal, alternate);
+    box->setCheckable(true);
+    return box;
 }

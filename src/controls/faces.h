@@ -28,5 +28,13 @@ struct ButtonRow
     const char *description = ""; ///< what it is called for assistive technology
 };
 
+/// A button in `parent`, which owns it, drawn from two pictures of its own, by name: at rest, and
+/// pressed or on. It has no action yet.
+HoverButton *makePictureButton(QWidget *parent, const ButtonRow &row, const char *normal,
+                               const char *alternate);
+/// The same as a box that a click checks and unchecks.
+HoverButton *makeCheckBox(QWidget *parent, const ButtonRow &row, const char *normal,
+                          const char *alternate);
+
 /// A button in `parent`, which owns it, with its faces cut at its frame. It has no action yet.
 HoverButton *makeButton(QWidget *parent, const ButtonRow &row, const Faces &faces);

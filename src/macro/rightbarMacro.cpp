@@ -1,9 +1,14 @@
 #include "macro/rightbarMacro.h"
 
+#include "controls/faces.h"
 #include "controls/scrollbars.h"
+#include "controls/skinscrollarea.h"
+#include "dialogs/dialogwindow.h"
 #include "functions/functioncodes.h"
+#include "macro/MacroDelWarn.h"
+#include "macro/MacroView.h"
+#include "platform/systemlog.h"
 
-#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 
 #include <algorithm>
@@ -25,32 +30,16 @@ constexpr QSize kListSize{175, 240}; ///< at first; it grows with its rows
 constexpr int kRowsBeforeItGrows = 11;
 
 /// The buttons stand in the header, whose lower edge moves with the panel's height.
-constexpr UpRect kNew{10, 0, 74, 27};
-constexpr UpRect kDelete{90, 0, 74, 27};
+constexpr ButtonRow kNew{"btnNew", {10, 0, 74, 27}, 0, "New", "New macro"};
+constexpr ButtonRow kDelete{"btnDelete", {90, 0, 74, 27}, 0, "Delete", "Delete macro"};
 
-/// Tab goes past the list without scrolling it: the toolkit's area, which is left out here, would
-/// show the list's middle.
-class ListArea : public Framed<QScrollArea>
+constexpr std::int32_t kNewMacro = -1;
+
+HoverButton *makeHeaderButton(QWidget *parent, const ButtonRow &row,
+                              const Action<HoverButton *> &action)
 {
-public:
-    using Framed::Framed;
-
-protected:
-    bool focusNextPrevChild(bool next) override
-    {
-        return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
-    }
-};
-
-HoverButton *makeHeaderButton(QWidget *parent, const char *name, const char *caption)
-{
-    auto *const button = new HoverButton(parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(QLatin1String(caption));
-    button->setCaptionText(QLatin1String(caption));
-    button->setNormalImage(SkinImage::named("new_normal"));
-    button->setAlternateImage(SkinImage::named("new_down"));
-    button->setDisable(true); // there is no editor to open yet
+    HoverButton *const button = makePictureButton(parent, row, "new_normal", "new_down");
+    button->setAction(action);
     return button;
 }
 
@@ -64,17 +53,15 @@ UpRect raised(UpRect rect, int by)
 rightbarMacro::rightbarMacro(QWidget *parent, UpRect frame,
                              const Action<CollapsiblePanel *> &noticeAction)
     : FunctionListPanel(kLook, parent, frame, noticeAction),
-      MacroListscrollView(new ListArea(this)),
-      btnNew(makeHeaderButton(this, "btnNew", "New")),
-      btnDelete(makeHeaderButton(this, "btnDelete", "Delete"))
+      btnNew(makeHeaderButton(this, kNew, {this, &rightbarMacro::newbuttonAction})),
+      btnDelete(makeHeaderButton(this, kDelete, {this, &rightbarMacro::deletebuttonAction})),
+      MacroListscrollView(new SkinScrollArea(this))
 {
-    MacroListscrollView->setFrameShape(QFrame::NoFrame);
-    MacroListscrollView->setFocusPolicy(Qt::NoFocus);
-    useSkinScrollBars(*MacroListscrollView);
-    MacroListscrollView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list().setDBClickAction({this, &rightbarMacro::MacroListDBClick});
     list().resize(kListSize);
     list().setRightMargin(kScrollBarWidth);
     MacroListscrollView->setWidget(&list());
+    setTabOrder(btnDelete, &list());
     refreshMacroList();
     setContent(MacroListscrollView);
 }
@@ -126,7 +113,91 @@ void rightbarMacro::ExpandView(bool expand)
     if (expand)
         refreshMacroList();
     const int by = expand ? kLook.panel.expanded.content.height : 0;
-    btnNew->setFrame(raised(kNew, by));
-    btnDelete->setFrame(raised(kDelete, by));
+    btnNew->setFrame(raised(kNew.frame, by));
+    btnDelete->setFrame(raised(kDelete.frame, by));
     FunctionListPanel::ExpandView(expand);
+}
+
+void rightbarMacro::newbuttonAction(HoverButton * /*sender*/)
+{
+    DisplayMacroWindow(kNewMacro);
+}
+
+void rightbarMacro::MacroListDBClick(pngListBox *sender)
+{
+    DisplayMacroWindow(sender->getcursel());
+    systemLog("MacroListDBClick");
+}
+
+void rightbarMacro::deletebuttonAction(HoverButton *sender)
+{
+    if (m_Config.MACRODEL_CONFIRM == 0)
+        MacroDelAction(sender);
+    else
+        DisplayWarnDlg();
+}
+
+/// The bar's, or where there is none its own.
+custumwindow &rightbarMacro::mainWindow() const
+{
+    QWidget *const owner = window()->parentWidget();
+    return static_cast<custumwindow &>(owner ? *owner->window() : *window());
+}
+
+void rightbarMacro::DisplayMacroWindow(std::int32_t macro)
+{
+    pMacroView = makeDialogAt<MacroView>(mainWindow());
+    pMacroWindow = pMacroView->window();
+    pMacroView->setcurrentMacroID(macro);
+    pMacroView->setTarget(this);
+    pMacroView->runModal();
+}
+
+void rightbarMacro::MacroOKAction(MacroView * /*sender*/)
+{
+    releaseEditor();
+    refreshMacroList();
+    systemLog("MacroOKAction");
+    m_macrosChangeAction.send();
+}
+
+void rightbarMacro::MacroCancelAction(MacroView * /*sender*/)
+{
+    releaseEditor();
+    systemLog("MacroCancelAction");
+}
+
+/// The window closes itself once we have been told.
+void rightbarMacro::releaseEditor()
+{
+    pMacroWindow = nullptr;
+    pMacroView = nullptr;
+}
+
+void rightbarMacro::DisplayWarnDlg()
+{
+    pWarnView = makeDialogAt<MacroDelWarn>(mainWindow());
+    pWarnWindow = pWarnView->window();
+    pWarnView->setDelAction({this, &rightbarMacro::MacroDelAction});
+    pWarnView->runModal();
+}
+
+void rightbarMacro::MacroDelAction(QWidget * /*sender*/)
+{
+    const int row = list().getcursel();
+    if (row >= 0 && row < static_cast<int>(kMacroCount))
+        deleteMacro(static_cast<unsigned>(row));
+    refreshMacroList();
+    update();
+    systemLog("deletebuttonAction");
+}
+
+/// The codes on the buttons stay as they are, on purpose: one that played this macro plays the
+/// next.
+void rightbarMacro::deleteMacro(unsigned slot)
+{
+    const std::span<MacroInfo> macros(CurrentProfile().MACRO);
+    std::ranges::copy(macros.subspan(slot + 1), macros.begin() + slot);
+    macros.back() = {};
+    m_macrosChangeAction.send();
 }

@@ -108,6 +108,17 @@ void MainView::initButtonSetting()
         pWindowControll->refreshMacroList();
 }
 
+void MainView::macrosChanged()
+{
+    for (unsigned k = 0; k < kButtonCount; ++k) {
+        const FunctionCode code = CurrentProfile().BUTTON[k];
+        if (functions::macroSlot(code))
+            SetButtonCaption(GetButtonHandle(static_cast<int>(k)), code);
+    }
+    setApplyButtonStatus(true);
+    CalcMouseMemoryUsage();
+}
+
 void MainView::DisplayButtonListBox(int buttonid)
 {
     if (bListboxPresent)

@@ -1,4 +1,5 @@
 #include "dialogs/AboutView.h"
+#include "dialogs/dialogwindow.h"
 #include "dialogs/PopupProgressBar.h"
 #include "dialogs/WarnOneView.h"
 #include "dialogs/WarnTwoView.h"
@@ -8,13 +9,9 @@
 template <class Dialog>
 Dialog *MainView::makeDialog()
 {
-    auto *const owner =
-        new custumwindow({0, 0, Dialog::kWidth, Dialog::kHeight}, window(), Qt::Dialog);
-    auto *const dialog = new Dialog(owner);
-    owner->setFixedSize(owner->size());
-    owner->setContentView(dialog);
-    owner->setBCanDragWindow(true);
-    owner->centerOver(*window());
+    auto &main = static_cast<custumwindow &>(*window());
+    auto *const dialog = makeDialogAt<Dialog>(main);
+    static_cast<custumwindow *>(dialog->window())->centerOver(main);
     return dialog;
 }
 

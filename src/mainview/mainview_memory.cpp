@@ -5,8 +5,6 @@
 namespace {
 
 constexpr std::uint32_t kProfileBytes = 75; ///< what every profile takes, whatever its buttons do
-constexpr std::uint32_t kModeCopyPaste = 0;
-constexpr std::uint32_t kModeRecordDelay = 2;
 
 std::uint32_t eventBytes(const MacroInfo &macro)
 {

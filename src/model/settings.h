@@ -24,10 +24,18 @@ struct KeymapEvent
     std::uint32_t delay;   ///< pause after the event, in units of 50 ms
 };
 
+/// What playing a macro sends.
+enum MacroMode : std::uint32_t {
+    kModeCopyPaste,   ///< the start keys, the text, the send keys; by the driver process only
+    kModeText,        ///< the events, with delays that the player of the macro chooses
+    kModeRecordDelay, ///< the events with their delays
+    kModeNoDelay,     ///< the events without delays
+};
+
 struct MacroInfo
 {
     char MACRO_NAME[100];
-    std::uint32_t MODE;
+    std::uint32_t MODE;              ///< a MacroMode; a file may hold any number
     KeymapEvent KEYMAP[kEventCount]; ///< ends before the first event of kind 0, or is full
     std::uint32_t bSTARTKEY;         ///< 0 or 1: the start keys are in use
     KeymapEvent STARTKEY[2];

@@ -64,6 +64,7 @@ void RightView::awakeFromNib()
     pProfileView->setProfileSelChangeNoticeAction(change);
     pMacroView = new rightbarMacro(this, start(3), notice);
     pMacroView->setMacroSelChangeNoticeAction(change);
+    pMacroView->setMacrosChangeAction({this, &RightView::macrosChanged});
     for (std::size_t i = 0; i < kPanelCount; ++i) {
         panels()[i]->setTag(kPanels[i].tag);
         panels()[i]->hide(); // until the bar has room for it
@@ -111,6 +112,11 @@ void RightView::ViewNoticeAction(CollapsiblePanel *panel)
 void RightView::NoticeMainFuncChange(FunctionCode code)
 {
     controller().changeSelFunction(code);
+}
+
+void RightView::macrosChanged()
+{
+    controller().macrosChanged();
 }
 
 /// Null collapses all.

@@ -33,6 +33,8 @@ public:
     void ViewNoticeAction(CollapsiblePanel *panel);
     /// A function was chosen in a panel: the controller is told.
     void NoticeMainFuncChange(FunctionCode code);
+    /// A player has changed the macros: the controller is told.
+    void macrosChanged();
 
 protected:
     void toggleBar() override;

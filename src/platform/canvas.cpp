@@ -35,8 +35,11 @@ void outlineInside(QPainter &painter, const QRectF &rect, const QColor &colour)
     painter.drawRect(rect.adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
-Canvas::Canvas(QWidget &view)
-    : m_painter(&view), m_bounds{0, 0, view.width(), view.height()}, m_host(view.height())
+Canvas::Canvas(QWidget &view, const QRect &exposed)
+    : m_painter(&view),
+      m_bounds{0, 0, view.width(), view.height()},
+      m_host(view.height()),
+      m_exposed(exposed)
 {
     // Between whole scales pictures are resampled.
     m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -67,6 +70,12 @@ void Canvas::drawImage(const SkinImage &image, UpPoint origin, qreal opacity)
     m_painter.setOpacity(opacity);
     m_painter.drawPixmap(m_host.down(place).topLeft(), image.pixmap());
     m_painter.setOpacity(1.0);
+}
+
+void Canvas::drawImageScaled(const SkinImage &image, UpRect rect)
+{
+    if (!image.isNull())
+        m_painter.drawPixmap(m_host.down(rect), image.pixmap());
 }
 
 void Canvas::drawImagePart(const SkinImage &image, UpPoint origin, QSize size)

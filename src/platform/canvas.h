@@ -26,9 +26,12 @@ void outlineInside(QPainter &painter, const QRectF &rect, const QColor &colour);
 class Canvas
 {
 public:
-    explicit Canvas(QWidget &view);
+    /// `exposed` is the part of the view, y downwards, that is to be drawn.
+    Canvas(QWidget &view, const QRect &exposed);
 
     UpRect bounds() const { return m_bounds; }
+    /// Whether anything of `rect` is to be drawn: what is not need not be drawn either.
+    bool isExposed(UpRect rect) const { return m_host.down(rect).intersects(m_exposed); }
 
     /// Makes the whole view transparent.
     void clear();
@@ -37,6 +40,8 @@ public:
     void outline(UpRect rect, const QColor &colour);
     /// Draws `image` over what is there, its lower left corner at `origin`.
     void drawImage(const SkinImage &image, UpPoint origin = {}, qreal opacity = 1.0);
+    /// Draws all of `image`, stretched or shrunk into `rect`.
+    void drawImageScaled(const SkinImage &image, UpRect rect);
     /// Draws the lower left `size` of `image`, unscaled, at `origin`.
     void drawImagePart(const SkinImage &image, UpPoint origin, QSize size);
     /// Draws one line of text, cut with an ellipsis at its end where it is too long, centred
@@ -51,4 +56,5 @@ private:
     QPainter m_painter;
     UpRect m_bounds;
     UpHost m_host;
+    QRect m_exposed;
 };

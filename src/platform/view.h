@@ -5,6 +5,7 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPaintEvent>
 #include <QtWidgets/QWidget>
 
 /// A mouse event in a view's own upward coordinates.
@@ -81,9 +82,9 @@ protected:
     /// A modifier key went down or up.
     virtual void flagsChanged(QKeyEvent *event) { event->ignore(); }
 
-    void paintEvent(QPaintEvent * /*event*/) override
+    void paintEvent(QPaintEvent *event) override
     {
-        Canvas canvas(*this);
+        Canvas canvas(*this, event->rect());
         drawRect(canvas);
     }
     void resizeEvent(QResizeEvent *event) override

@@ -17,6 +17,7 @@ struct FakeMain : MainContent
     {
         calls << QStringLiteral("main changeCurrentButtonFunction %1").arg(code);
     }
+    void macrosChanged() override { calls << QStringLiteral("main macrosChanged"); }
     void redraw() override { calls << QStringLiteral("main redraw"); }
 
     QStringList &calls;

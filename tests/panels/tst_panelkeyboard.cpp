@@ -64,6 +64,7 @@ QStringList stopsWith(const char *contentStop, int at)
     QStringList stops;
     for (const KnownPanel &known : kKnownPanels)
         stops << QStringLiteral("btnExpand/") + QLatin1String(known.title);
+    stops << QStringLiteral("btnNew/New macro") << QStringLiteral("btnDelete/Delete macro");
     if (contentStop)
         stops.insert(at, QLatin1String(contentStop));
     return stops << QStringLiteral("BottomBar/btnToggle");
@@ -83,7 +84,7 @@ void tst_panelkeyboard::theTabKeyReachesWhatShows_data()
     QTest::newRow("profile") << Panels{PanelId::Profile}
                              << stopsWith("pProfileListbox/Change Profile", 3);
     QTest::newRow("macros") << Panels{PanelId::Macro}
-                            << stopsWith("pMacroListbox/Custom Macros", 4);
+                            << stopsWith("pMacroListbox/Custom Macros", 6);
     QTest::newRow("collapsed again") << Panels{PanelId::Cpi, PanelId::Cpi} << stopsWith(nullptr, 0);
 }
 

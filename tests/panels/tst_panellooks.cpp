@@ -137,7 +137,8 @@ void tst_panellooks::theButtonsOfTheMacroPanelHaveTheirFace()
 {
     PanelsStage stage;
     stage.toggleRight();
-    for (const auto &[name, title] : {std::pair("btnNew", "New"), {"btnDelete", "Delete"}}) {
+    for (const auto &[name, title] :
+         {std::pair("btnNew", "New macro"), {"btnDelete", "Delete macro"}}) {
         auto &button =
             *static_cast<HoverButton *>(PanelsStage::part(&stage.panel(PanelId::Macro), name));
         QCOMPARE(button.accessibleName(), QLatin1String(title));

@@ -1,0 +1,17 @@
+#include "controls/skinscrollarea.h"
+
+#include "controls/scrollbars.h"
+
+SkinScrollArea::SkinScrollArea(QWidget *parent) : Framed(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    useSkinScrollBars(*this);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+/// The toolkit's area, which is left out here, would show the middle of what gets the keyboard.
+bool SkinScrollArea::focusNextPrevChild(bool next)
+{
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
+}

@@ -1,0 +1,167 @@
+#include "macro/MacroView.h"
+
+#include "controls/skinscrollarea.h"
+#include "macro/limitedLengthFormatter.h"
+#include "platform/keywindow.h"
+
+#include <QtWidgets/QApplication>
+
+using namespace macrolayout;
+
+namespace {
+
+constexpr int kLabelSize = 11;
+constexpr std::uint32_t kMostLoopDigits = 3;
+
+constexpr QColor kFieldEdge(138, 108, 56);
+constexpr QColor kFieldRim(7, 5, 4);
+constexpr QColor kFieldLit(255, 223, 128);
+
+UpRect around(UpRect rect, int margin)
+{
+    return {rect.x - margin, rect.y - margin, rect.width + 2 * margin, rect.height + 2 * margin};
+}
+
+} // namespace
+
+MacroView::MacroView(QWidget *parent) : ModalDialog(parent)
+{
+    const UpRect frame{0, 0, kWidth, kHeight};
+    setFrame(frame);
+    window()->setWindowTitle(QLatin1String(kTitle.text));
+    setAccessibleName(window()->windowTitle());
+    buildFields();
+    buildButtons();
+    m_MacroInfo.MODE = kModeText;
+    setDefaultKeys();
+    pStartDisplayView->setKeymapInfo(m_MacroInfo.STARTKEY);
+    pSendDisplayView->setKeymapInfo(m_MacroInfo.SENDKEY);
+    initSetting();
+    connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
+}
+
+template <class Control>
+Control *MacroView::addField(Field field, Control *control)
+{
+    const FieldRow &row = rowOf(field);
+    control->setObjectName(QLatin1String(row.name));
+    control->setAccessibleName(QLatin1String(row.description));
+    m_fields[static_cast<std::size_t>(field)] = {control, control};
+    return control;
+}
+
+/// In the order of the tab key.
+void MacroView::buildFields()
+{
+    pTextfieldMacroName = addField(Field::Name, new TextField(this));
+    MacroscrollView = addField(Field::Events, new SkinScrollArea(this));
+    pStartDisplayView = addField(Field::StartKey, new MacroDisplay(this));
+    pCopyTextfield = addField(Field::Text, new TextArea(this));
+    pSendDisplayView = addField(Field::SendKey, new MacroDisplay(this));
+    pLoopTextfield = addField(Field::Loop, new TextField(this));
+
+    const UpRect area = rowOf(Field::Events).places.events;
+    pMacroDisplayView = new MacroDisplay(this, {0, 0, area.width, area.height});
+    pMacroDisplayView->setObjectName(QStringLiteral("pMacroDisplayView"));
+    pMacroDisplayView->setAccessibleName(MacroscrollView->accessibleName());
+    pMacroDisplayView->setMaxKeymapEvent(kMostMacroEvents);
+    pMacroDisplayView->enableScroll(true);
+    MacroscrollView->setWidget(pMacroDisplayView);
+    pStartDisplayView->setMaxKeymapEvent(kMostKeyEvents);
+    pSendDisplayView->setMaxKeymapEvent(kMostKeyEvents);
+
+    auto *const formatter = new limitedLengthFormatter(pLoopTextfield);
+    formatter->setMaxTextLength(kMostLoopDigits);
+    pLoopTextfield->setValidator(formatter);
+}
+
+void MacroView::buildButtons()
+{
+    const Faces faces{SkinImage::named("Macro_N"), SkinImage::named("Macro_O"),
+                      SkinImage::named("Macro_D")};
+    BKImage = faces.normal;
+    const Action<HoverButton *> action{this, &MacroView::buttonAction};
+    for (std::size_t i = 0; i < kChoiceCount; ++i) {
+        const ChoiceRow &row = kChoices[i];
+        const ButtonRow button{
+            .name = row.name, .frame = {}, .tag = row.tag, .description = row.label.text};
+        m_choices[i] = makeCheckBox(this, button, row.pictures.off, row.pictures.on);
+        m_choices[i]->setAction(action);
+    }
+    for (const ButtonRow &row : kButtons) {
+        HoverButton *const button = makeButton(this, row, faces);
+        button->setAction(action);
+        if (row.tag == kTagClose)
+            setKeyControls(button, pTextfieldMacroName);
+    }
+}
+
+void MacroView::layOut(Layout layout)
+{
+    m_layout = layout;
+    for (std::size_t i = 0; i < kFieldCount; ++i) {
+        const UpRect place = kFields[i].places.in(layout);
+        m_fields[i].place->setFrame(place);
+        // By itself a control without a size would still be reached by the tab key.
+        place.width > 0 ? m_fields[i].widget->show() : hideQuietly(*m_fields[i].widget);
+    }
+    for (std::size_t i = 0; i < kChoiceCount; ++i) {
+        const UpRect place = kChoices[i].box.in(layout);
+        m_choices[i]->setFrame(place);
+        place.width > 0 ? m_choices[i]->show() : hideQuietly(*m_choices[i]);
+    }
+}
+
+void MacroView::drawRect(Canvas &canvas)
+{
+    canvas.clear();
+    canvas.drawImage(BKImage);
+    drawLabel(canvas, kTitle, TextAlign::Centre);
+    drawLabel(canvas, kName, TextAlign::Left);
+    for (const ChoiceRow &row : kChoices)
+        drawLabel(canvas, row.label, TextAlign::Left);
+    for (std::size_t i = 0; i < kFieldCount; ++i)
+        drawFieldFrame(canvas, i);
+}
+
+void MacroView::drawLabel(Canvas &canvas, const LabelRow &label, TextAlign align) const
+{
+    const UpRect place = label.places.in(m_layout);
+    if (place.width > 0)
+        canvas.drawLine(QLatin1String(label.text), place, kGold, align, kLabelSize);
+}
+
+/// Bright around the field that has the keyboard, above all the one that records.
+void MacroView::drawFieldFrame(Canvas &canvas, std::size_t field) const
+{
+    const UpRect place = kFields[field].places.in(m_layout);
+    if (place.width == 0)
+        return;
+    const bool isEdited = isActiveWindow() && keyboardWithin(*m_fields[field].widget);
+    canvas.outline(around(place, 1), isEdited ? kFieldLit : kFieldRim);
+    canvas.outline(around(place, 2), isEdited ? kGold : kFieldEdge);
+}
+
+void MacroView::mouseDown(const ViewMouseEvent &event)
+{
+    if (m_MacroInfo.bLOOP == 1)
+        takeLoopCount();
+    takeKeyboard();
+    ModalDialog::mouseDown(event);
+}
+
+/// Ends the editing of any field.
+void MacroView::takeKeyboard()
+{
+    setFocus(Qt::OtherFocusReason);
+}
+
+void MacroView::returnPressed(QWidget * /*focused*/)
+{
+    takeKeyboard();
+}
+
+void MacroView::answered(int tag)
+{
+    tag == kTagOK ? m_okAction.send(this) : m_cancelAction.send(this);
+}

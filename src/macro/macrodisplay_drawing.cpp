@@ -1,0 +1,63 @@
+#include "controls/scrollbars.h"
+#include "macro/MacroDisplay.h"
+#include "macro/textcells.h"
+#include "platform/action.h"
+
+namespace {
+
+constexpr QColor kDisabled(170, 170, 170);
+
+} // namespace
+
+void MacroDisplay::drawRect(Canvas &canvas)
+{
+    canvas.fill(canvas.bounds(), m_bEnable ? kWhite : kDisabled);
+    const QString text = GetMacroOutputString();
+    drawCells(canvas, text);
+    // By one line for each drawing, and not before it is over.
+    if (needsLine(text) && !m_isGrowing) {
+        m_isGrowing = true;
+        performDeferred(this, &MacroDisplay::growByOneLine);
+    } else if (m_showsNewest) {
+        performDeferred(this, &MacroDisplay::showNewest);
+    }
+}
+
+void MacroDisplay::drawCells(Canvas &canvas, const QString &text)
+{
+    for (const TextCell &cell : layOutCells(text, height(), m_charHeight)) {
+        m_charWidth = cell.place.width;
+        m_newest = cell.place;
+        // Most of a long list is scrolled out of sight.
+        if (!canvas.isExposed(cell.place))
+            continue;
+        if (cell.character == kPressSign)
+            canvas.drawImageScaled(m_Imagedown, cell.place);
+        else if (cell.character == kReleaseSign)
+            canvas.drawImageScaled(m_Imageup, cell.place);
+        else
+            canvas.DrawMyTextwithColor(cell.character, cell.place, Qt::black, TextAlign::Left,
+                                       kCellFontSize);
+    }
+}
+
+bool MacroDisplay::needsLine(const QString &text) const
+{
+    const int lines = static_cast<int>(text.size()) / m_MaxCharofsingleLine + 1;
+    return m_bEnableScroll && lines * m_charHeight > height();
+}
+
+void MacroDisplay::growByOneLine()
+{
+    m_isGrowing = false;
+    resize(width(), height() + m_charHeight);
+    update();
+}
+
+void MacroDisplay::showNewest()
+{
+    if (!m_showsNewest)
+        return;
+    m_showsNewest = false;
+    scrollIntoView(*this, UpHost(height()).down(m_newest));
+}

@@ -1,0 +1,268 @@
+#include "macro/MacroView.h"
+
+#include "controls/skinscrollarea.h"
+#include "model/fixedtext.h"
+#include "platform/numbers.h"
+#include "platform/systemlog.h"
+
+#include <algorithm>
+
+using namespace macrolayout;
+
+namespace {
+
+constexpr std::uint32_t kEnter = 36;
+constexpr std::uint32_t kDefaultKeys[] = {kKeyPress, kKeyRelease};
+constexpr std::int32_t kLeastLoops = 1;
+constexpr std::int32_t kMostLoops = 999;
+constexpr const char *kDefaultName = "Custom";
+
+/// Leaves the delays as they are.
+void setEnter(std::span<KeymapEvent> keys)
+{
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        keys[i].keycode = kEnter;
+        keys[i].kind = kDefaultKeys[i];
+    }
+}
+
+QString textOf(std::span<const char> field)
+{
+    const std::string_view text = GetText(field);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+void store(std::span<char> field, const QString &text)
+{
+    SetText(field, text.toStdString());
+}
+
+} // namespace
+
+struct MacroView::ModeRow
+{
+    void (MacroView::*setLayout)();
+    Choice radio;
+    EventTextStyle style; ///< of the event list
+};
+
+/// In the order of MacroMode; null for a number that is no mode.
+const MacroView::ModeRow *MacroView::modeRow(std::uint32_t mode)
+{
+    static constexpr ModeRow rows[] = {
+        {&MacroView::setCopyPastemode, Choice::ButtonCopy, {false, true}},
+        {&MacroView::setTextmode, Choice::ButtonText, {false, false}},
+        {&MacroView::setRecordmode, Choice::ButtonRecordDelay, {true, true}},
+        {&MacroView::setNodelaymode, Choice::ButtonNoDelay, {false, true}},
+    };
+    return mode < std::size(rows) ? &rows[mode] : nullptr;
+}
+
+void MacroView::setcurrentMacroID(std::int32_t macro)
+{
+    m_MacroID = macro;
+    if (macro < 0 || macro >= static_cast<std::int32_t>(kMacroCount))
+        return;
+    m_MacroInfo = CurrentProfile().MACRO[macro];
+    initSetting();
+}
+
+void MacroView::setMacroDelaymode(std::uint32_t mode)
+{
+    m_MacroInfo.MODE = mode;
+    const ModeRow *const row = modeRow(mode);
+    if (row)
+        (this->*row->setLayout)();
+    for (std::uint32_t each = kModeCopyPaste; const ModeRow *other = modeRow(each); ++each)
+        choice(other->radio).setChecked(other == row);
+}
+
+void MacroView::initSetting()
+{
+    pTextfieldMacroName->setText(textOf(m_MacroInfo.MACRO_NAME));
+    setMacroDelaymode(m_MacroInfo.MODE);
+    if (m_MacroInfo.MODE == kModeCopyPaste)
+        showKeysAndText();
+    else if (const ModeRow *const mode = modeRow(m_MacroInfo.MODE))
+        showEvents(*mode);
+    update();
+}
+
+void MacroView::showEvents(const ModeRow &mode)
+{
+    pMacroDisplayView->setKeymapInfo(m_MacroInfo.KEYMAP);
+    pMacroDisplayView->setDisplayDelay(mode.style.showsDelays);
+    pMacroDisplayView->setDisplayUpAndDown(mode.style.showsUpAndDown);
+    pMacroDisplayView->update();
+    showLoop();
+    const auto count = static_cast<std::int32_t>(m_MacroInfo.MACRO_LOOP);
+    pLoopTextfield->setText(QString::number(count == 0 ? 1 : count));
+}
+
+void MacroView::showKeysAndText()
+{
+    showKey(Choice::ButtonStartKey, *pStartDisplayView, m_MacroInfo.bSTARTKEY,
+            m_MacroInfo.STARTKEY);
+    showKey(Choice::ButtonSendKey, *pSendDisplayView, m_MacroInfo.bSENDKEY, m_MacroInfo.SENDKEY);
+    pCopyTextfield->setPlainText(textOf(m_MacroInfo.COPY_PASTER));
+}
+
+void MacroView::showKey(Choice box, MacroDisplay &view, std::uint32_t flag,
+                        std::span<const KeymapEvent> keys)
+{
+    view.setDisplayDelay(false);
+    choice(box).setChecked(flag != 0);
+    view.enablewindow(flag == 1);
+    view.setKeymapInfo(keys);
+}
+
+void MacroView::showLoop()
+{
+    choice(Choice::ButtonLoop).setChecked(m_MacroInfo.bLOOP != 0);
+    pLoopTextfield->setEditable(m_MacroInfo.bLOOP == 1);
+}
+
+void MacroView::setDefaultKeys()
+{
+    setEnter(m_MacroInfo.STARTKEY);
+    setEnter(m_MacroInfo.SENDKEY);
+    m_MacroInfo.bSTARTKEY = 1;
+    m_MacroInfo.bSENDKEY = 1;
+}
+
+void MacroView::ClearMacro()
+{
+    if (m_MacroInfo.MODE != kModeCopyPaste) {
+        std::ranges::fill(m_MacroInfo.KEYMAP, KeymapEvent{});
+        pMacroDisplayView->setKeymapInfo(m_MacroInfo.KEYMAP);
+        return;
+    }
+    // The check boxes and the views' grey catch up when the mode is shown anew, on purpose.
+    setDefaultKeys();
+    pStartDisplayView->setKeymapInfo(m_MacroInfo.STARTKEY);
+    pSendDisplayView->setKeymapInfo(m_MacroInfo.SENDKEY);
+    pCopyTextfield->clear();
+}
+
+struct MacroView::ActionRow
+{
+    int tag;
+    const char *logLine; ///< null for none
+    void (MacroView::*act)();
+};
+
+void MacroView::buttonAction(HoverButton *sender)
+{
+    static constexpr ActionRow rows[] = {
+        {kTagOK, nullptr, &MacroView::confirm},
+        {kTagCancel, "IDC_MACRO_BUTTON_CANCEL  was clicked", &MacroView::cancel},
+        {kTagClear, "IDC_MACRO_BUTTON_CLEAR  was clicked", &MacroView::ClearMacro},
+        {kTagClose, nullptr, &MacroView::cancel},
+        {kTagStartKey, "IDC_MACRO_BUTTON_STARTKEY  was clicked", &MacroView::flipStartKey},
+        {kTagSendKey, "IDC_MACRO_BUTTON_SENDKEY  was clicked", &MacroView::flipSendKey},
+        {kTagCopy, "IDC_MACRO_BUTTON_COPY  was clicked", &MacroView::chooseMode<kModeCopyPaste>},
+        {kTagText, "IDC_MACRO_BUTTON_TEXT  was clicked", &MacroView::chooseMode<kModeText>},
+        {kTagRecordDelay, "IDC_MACRO_BUTTON_RECORDDELAY  was clicked",
+         &MacroView::chooseMode<kModeRecordDelay>},
+        {kTagNoDelay, "IDC_MACRO_BUTTON_NODELAY  was clicked",
+         &MacroView::chooseMode<kModeNoDelay>},
+        {kTagLoop, "IDC_MACRO_BUTTON_LOOP  was clicked", &MacroView::flipLoop},
+    };
+    const auto *const row = std::ranges::find(rows, sender->tag(), &ActionRow::tag);
+    if (row == std::end(rows))
+        return;
+    if (row->logLine)
+        systemLog("%s", row->logLine);
+    (this->*row->act)();
+}
+
+template <std::uint32_t mode>
+void MacroView::chooseMode()
+{
+    setMacroDelaymode(mode);
+    initSetting();
+}
+
+void MacroView::flipStartKey()
+{
+    m_MacroInfo.bSTARTKEY = m_MacroInfo.bSTARTKEY ? 0 : 1;
+    choice(Choice::ButtonStartKey).setChecked(m_MacroInfo.bSTARTKEY != 0);
+    pStartDisplayView->enablewindow(m_MacroInfo.bSTARTKEY != 0);
+}
+
+void MacroView::flipSendKey()
+{
+    m_MacroInfo.bSENDKEY = m_MacroInfo.bSENDKEY ? 0 : 1;
+    choice(Choice::ButtonSendKey).setChecked(m_MacroInfo.bSENDKEY != 0);
+    pSendDisplayView->enablewindow(m_MacroInfo.bSENDKEY != 0);
+}
+
+void MacroView::flipLoop()
+{
+    takeLoopCount();
+    m_MacroInfo.bLOOP = m_MacroInfo.bLOOP ? 0 : 1;
+    takeKeyboard();
+    showLoop();
+}
+
+/// A field without a number counts as 0.
+void MacroView::takeLoopCount()
+{
+    m_MacroInfo.MACRO_LOOP =
+        static_cast<std::uint32_t>(leadingInteger(pLoopTextfield->text().toStdString()));
+}
+
+bool MacroView::hasLoopError() const
+{
+    const auto count = static_cast<std::int32_t>(m_MacroInfo.MACRO_LOOP);
+    return m_MacroInfo.bLOOP == 1 && (count < kLeastLoops || count > kMostLoops);
+}
+
+void MacroView::takeTexts()
+{
+    const QString name = pTextfieldMacroName->plainText();
+    store(m_MacroInfo.MACRO_NAME, name.isEmpty() ? QString::fromLatin1(kDefaultName) : name);
+    store(m_MacroInfo.COPY_PASTER, pCopyTextfield->plainText());
+}
+
+/// Whole slots, whatever the views count: a list that a click has shortened keeps its old events
+/// behind the new ones, on purpose.
+void MacroView::takeEvents()
+{
+    const auto take = [](const MacroDisplay &view, std::span<KeymapEvent> slots) {
+        std::ranges::copy(view.getKeymapInfo().first(slots.size()), slots.begin());
+    };
+    take(*pMacroDisplayView, std::span(m_MacroInfo.KEYMAP).first(kMostMacroEvents));
+    take(*pStartDisplayView, m_MacroInfo.STARTKEY);
+    take(*pSendDisplayView, m_MacroInfo.SENDKEY);
+}
+
+void MacroView::confirm()
+{
+    takeTexts();
+    takeLoopCount();
+    if (hasLoopError()) {
+        pLoopTextfield->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    takeEvents();
+    saveMacroInfo();
+    answer(kTagOK);
+}
+
+/// Null where there is none.
+MacroInfo *MacroView::slotToSave() const
+{
+    auto &macros = CurrentProfile().MACRO;
+    if (m_MacroID >= 0)
+        return m_MacroID < static_cast<std::int32_t>(kMacroCount) ? &macros[m_MacroID] : nullptr;
+    auto *const free = std::ranges::find_if(
+        macros, [](const MacroInfo &macro) { return GetText(macro.MACRO_NAME).empty(); });
+    return m_MacroID == -1 && free != std::end(macros) ? free : nullptr;
+}
+
+void MacroView::saveMacroInfo()
+{
+    if (MacroInfo *const slot = slotToSave())
+        *slot = m_MacroInfo;
+}
