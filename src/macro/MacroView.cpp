@@ -50,7 +50,6 @@ Control *MacroView::addField(Field field, Control *control)
     return control;
 }
 
-/// In the order of the tab key.
 void MacroView::buildFields()
 {
     pTextfieldMacroName = addField(Field::Name, new TextField(this));
@@ -94,6 +93,9 @@ void MacroView::buildButtons()
         if (row.tag == kTagClose)
             setKeyControls(button, pTextfieldMacroName);
     }
+    // The tab key goes on from a box to the field that belongs to it.
+    setTabOrder(&choice(Choice::ButtonStartKey), pCopyTextfield);
+    setTabOrder(&choice(Choice::ButtonLoop), pLoopTextfield);
 }
 
 void MacroView::layOut(Layout layout)
