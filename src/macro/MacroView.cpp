@@ -17,6 +17,14 @@ constexpr QColor kFieldEdge(138, 108, 56);
 constexpr QColor kFieldRim(7, 5, 4);
 constexpr QColor kFieldLit(255, 223, 128);
 
+/// Where there is no place, the control is hidden: by itself one without a size would still be
+/// reached by the tab key.
+void put(QWidget &control, Placed &placed, UpRect place)
+{
+    placed.setFrame(place);
+    place.width > 0 ? control.show() : hideQuietly(control);
+}
+
 UpRect around(UpRect rect, int margin)
 {
     return {rect.x - margin, rect.y - margin, rect.width + 2 * margin, rect.height + 2 * margin};
@@ -59,6 +67,17 @@ void MacroView::buildFields()
     pSendDisplayView = addField(Field::SendKey, new MacroDisplay(this));
     pLoopTextfield = addField(Field::Loop, new TextField(this));
 
+    buildEventList();
+    pStartDisplayView->setMaxKeymapEvent(kMostKeyEvents);
+    pSendDisplayView->setMaxKeymapEvent(kMostKeyEvents);
+
+    auto *const formatter = new limitedLengthFormatter(pLoopTextfield);
+    formatter->setMaxTextLength(kMostLoopDigits);
+    pLoopTextfield->setValidator(formatter);
+}
+
+void MacroView::buildEventList()
+{
     const UpRect area = rowOf(Field::Events).places.events;
     pMacroDisplayView = new MacroDisplay(this, {0, 0, area.width, area.height});
     pMacroDisplayView->setObjectName(QStringLiteral("pMacroDisplayView"));
@@ -66,12 +85,6 @@ void MacroView::buildFields()
     pMacroDisplayView->setMaxKeymapEvent(kMostMacroEvents);
     pMacroDisplayView->enableScroll(true);
     MacroscrollView->setWidget(pMacroDisplayView);
-    pStartDisplayView->setMaxKeymapEvent(kMostKeyEvents);
-    pSendDisplayView->setMaxKeymapEvent(kMostKeyEvents);
-
-    auto *const formatter = new limitedLengthFormatter(pLoopTextfield);
-    formatter->setMaxTextLength(kMostLoopDigits);
-    pLoopTextfield->setValidator(formatter);
 }
 
 void MacroView::buildButtons()
@@ -101,17 +114,10 @@ void MacroView::buildButtons()
 void MacroView::layOut(Layout layout)
 {
     m_layout = layout;
-    for (std::size_t i = 0; i < kFieldCount; ++i) {
-        const UpRect place = kFields[i].places.in(layout);
-        m_fields[i].place->setFrame(place);
-        // By itself a control without a size would still be reached by the tab key.
-        place.width > 0 ? m_fields[i].widget->show() : hideQuietly(*m_fields[i].widget);
-    }
-    for (std::size_t i = 0; i < kChoiceCount; ++i) {
-        const UpRect place = kChoices[i].box.in(layout);
-        m_choices[i]->setFrame(place);
-        place.width > 0 ? m_choices[i]->show() : hideQuietly(*m_choices[i]);
-    }
+    for (std::size_t i = 0; i < kFieldCount; ++i)
+        put(*m_fields[i].widget, *m_fields[i].place, kFields[i].places.in(layout));
+    for (std::size_t i = 0; i < kChoiceCount; ++i)
+        put(*m_choices[i], *m_choices[i], kChoices[i].box.in(layout));
 }
 
 void MacroView::drawRect(Canvas &canvas)

@@ -68,6 +68,7 @@ private:
 
     // Building and layout (MacroView.cpp)
     void buildFields();
+    void buildEventList();
     void buildButtons();
     template <class Control>
     Control *addField(Field field, Control *control);
