@@ -63,8 +63,7 @@ QString MacroDisplay::GetKeycodeString(std::uint8_t keycode)
 QString MacroDisplay::GetMacroOutputString() const
 {
     const std::span<const KeymapEvent> list(m_MacroInfo.events);
-    const QString text =
-        eventText(list.first(m_MacroInfo.count), {m_DisplayDelay, m_DisplayUpAndDown});
+    QString text = eventText(list.first(m_MacroInfo.count), {m_DisplayDelay, m_DisplayUpAndDown});
     systemLog("%s", qPrintable(text));
     return text;
 }

@@ -42,7 +42,7 @@ struct Places
 
 struct LabelRow
 {
-    const char *text;
+    const char *text = "";
     Places places;
 };
 
@@ -66,8 +66,8 @@ enum class Choice {
 /// The pictures of a box, while it is off and while it is on.
 struct BoxPictures
 {
-    const char *off;
-    const char *on;
+    const char *off = "";
+    const char *on = "";
 };
 inline constexpr BoxPictures kCheck{"uncheck", "check"};
 inline constexpr BoxPictures kRadio{"radio_n", "radio_d"};
@@ -75,8 +75,8 @@ inline constexpr BoxPictures kRadio{"radio_n", "radio_d"};
 /// A check box or radio button with its label.
 struct ChoiceRow
 {
-    const char *name; ///< the object's
-    int tag;
+    const char *name = ""; ///< the object's
+    int tag = 0;
     BoxPictures pictures;
     Places box;
     LabelRow label;
@@ -86,8 +86,8 @@ enum class Field { Name, Events, StartKey, Text, SendKey, Loop };
 
 struct FieldRow
 {
-    const char *name;        ///< the object's
-    const char *description; ///< what it is called for assistive technology
+    const char *name = "";        ///< the object's
+    const char *description = ""; ///< what it is called for assistive technology
     Places places;
 };
 

@@ -41,8 +41,8 @@ void store(std::span<char> field, const QString &text)
 
 struct MacroView::ModeRow
 {
-    void (MacroView::*setLayout)();
-    Choice radio;
+    void (MacroView::*setLayout)() = nullptr;
+    Choice radio = {};
     EventTextStyle style; ///< of the event list
 };
 

@@ -4,6 +4,8 @@
 
 #include <QtGui/QFontMetrics>
 
+#include <cmath>
+
 namespace {
 
 constexpr int kLineWidth = 214;
@@ -19,7 +21,7 @@ std::vector<TextCell> layOutCells(const QString &text, int viewHeight, int lineH
     int x = 0;
     int line = 0;
     for (const QChar character : text) {
-        const auto width = static_cast<int>(metrics.horizontalAdvance(character) + 0.5);
+        const auto width = static_cast<int>(std::lround(metrics.horizontalAdvance(character)));
         cells.push_back(
             {character, {x, viewHeight - (line + 1) * lineHeight, width, lineHeight - kLineGap}});
         x += width;
