@@ -51,20 +51,20 @@ void CollapsiblePanel::ExpandView(bool expand)
     const PanelLook::Layout &layout = expand ? m_look.expanded : m_look.collapsed;
     btnExpand->setChecked(expand);
     btnExpand->setFrame(layout.toggle);
-    if (!m_content)
+    if (!m_content.widget)
         return;
-    m_contentPlace->setFrame(layout.content);
+    m_content.placed->setFrame(layout.content);
     if (!expand)
         passKeyboardOn();
     // A collapsed panel is too low to show it; hidden, the tab key passes it by.
-    m_content->setVisible(expand);
+    m_content.widget->setVisible(expand);
     update();
 }
 
 /// What is about to hide gives the keyboard to the button that brings it back.
 void CollapsiblePanel::passKeyboardOn()
 {
-    if (keyboardWithin(*m_content))
+    if (keyboardWithin(*m_content.widget))
         btnExpand->setFocus(Qt::OtherFocusReason);
 }
 

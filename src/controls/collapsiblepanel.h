@@ -51,8 +51,7 @@ protected:
     template <class Content>
     void setContent(Content *content)
     {
-        m_content = content;
-        m_contentPlace = content;
+        m_content = PlacedWidget(content);
         ExpandView(bExpanded);
     }
     /// Lays the panel's parts out for one state.
@@ -70,6 +69,5 @@ private:
     HoverButton *btnExpand;
     int _tag = 0;
     Action<CollapsiblePanel *> _noticeAction;
-    QWidget *m_content = nullptr; ///< the same object twice
-    Placed *m_contentPlace = nullptr;
+    PlacedWidget m_content;
 };

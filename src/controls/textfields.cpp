@@ -47,6 +47,23 @@ TextField::TextField(QWidget *parent) : Framed(parent)
 {
     QLineEdit::setFrame(false);
     setLook(*this);
+    connect(this, &QLineEdit::textEdited, this, &TextField::refuseUnacceptable);
+    connect(this, &QLineEdit::textChanged, this, [this] { m_before = text(); });
+}
+
+void TextField::load(const QString &text)
+{
+    m_loaded = text;
+    setText(text);
+}
+
+/// The toolkit lets everything be typed into a field whose text is not acceptable anyway.
+void TextField::refuseUnacceptable()
+{
+    if (hasAcceptableInput())
+        return;
+    setText(m_before);
+    setModified(true);
 }
 
 void TextField::setEditable(bool editable)
@@ -57,7 +74,7 @@ void TextField::setEditable(bool editable)
 
 QString TextField::plainText() const
 {
-    return withoutControls(text(), {});
+    return isModified() ? withoutControls(text(), {}) : m_loaded;
 }
 
 TextArea::TextArea(QWidget *parent) : Framed(parent)
@@ -69,8 +86,16 @@ TextArea::TextArea(QWidget *parent) : Framed(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
+void TextArea::load(const QString &text)
+{
+    m_loaded = text;
+    setPlainText(text);
+}
+
 QString TextArea::plainText() const
 {
+    if (!document()->isModified())
+        return m_loaded;
     // The toolkit's plain text would have other blanks than were typed.
     QString text = document()->toRawText();
     text.replace(QChar::ParagraphSeparator, u'\n');

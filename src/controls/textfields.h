@@ -16,10 +16,19 @@ public:
 
     using Placed::setFrame;
 
+    /// Shows a text that nobody has typed, as it is; a validator is not asked.
+    void load(const QString &text);
     /// Whether a person can change the text.
     void setEditable(bool editable);
-    /// The text with every control character, which a paste may bring, as a blank.
+    /// The text: as it was loaded, or once it was edited with every control character, which a
+    /// paste may bring, as a blank.
     QString plainText() const;
+
+private:
+    void refuseUnacceptable();
+
+    QString m_loaded;
+    QString m_before; ///< what stood there before the last edit
 };
 
 /// A field for several lines; the tab key leaves it.
@@ -28,6 +37,12 @@ class TextArea : public Framed<QPlainTextEdit>
 public:
     explicit TextArea(QWidget *parent);
 
-    /// The text with lines ended by "\n" and every other control character but the tab as a blank.
+    /// Shows a text that nobody has typed.
+    void load(const QString &text);
+    /// The text: as it was loaded, or once it was edited with lines ended by "\n" and every other
+    /// control character but the tab as a blank.
     QString plainText() const;
+
+private:
+    QString m_loaded;
 };

@@ -5,9 +5,9 @@
 /// A dialog of that class in a draggable window of its own, which belongs to the window `owner` and
 /// stands at its lower left corner. It is not shown yet.
 template <class Dialog>
-Dialog *makeDialogAt(custumwindow &owner)
+Dialog *makeDialogAt(QWidget &owner)
 {
-    const UpRect at = owner.frame();
+    const UpRect at = hostOf(owner).up(owner.geometry());
     auto *const window =
         new custumwindow({at.x, at.y, Dialog::kWidth, Dialog::kHeight}, &owner, Qt::Dialog);
     auto *const dialog = new Dialog(window);

@@ -169,12 +169,6 @@ QString nameOf(const GameCommand *command)
     return command ? QString::fromLatin1(command->name) : QString();
 }
 
-QString macroName(const ProfileInfo &profile, std::uint32_t slot)
-{
-    const auto name = GetText(MacroAt(profile, slot).MACRO_NAME);
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-}
-
 } // namespace
 
 const BasicFunction *basicFunction(FunctionCode code)
@@ -209,7 +203,7 @@ QString caption(FunctionCode code, const ProfileInfo &profile)
     if (const BasicFunction *basic = basicFunction(code))
         return QString::fromLatin1(basic->caption);
     if (const auto slot = macroSlot(code))
-        return macroName(profile, *slot);
+        return GetString(MacroAt(profile, *slot).MACRO_NAME);
     return nameOf(gameCommand(code));
 }
 

@@ -1,7 +1,6 @@
 #include "macro/MacroDisplay.h"
 
 #include "macro/keynames.h"
-#include "platform/action.h"
 #include "platform/systemlog.h"
 
 #include <algorithm>
@@ -9,7 +8,6 @@
 namespace {
 
 constexpr std::uint16_t kInsert = 114;
-constexpr std::uint16_t kCapsLock = 57;
 
 /// What a log line can show of what a key types.
 char logged(const QString &characters)
@@ -33,6 +31,11 @@ MacroDisplay::MacroDisplay(QWidget *parent, UpRect frame)
     setFrame(frame);
 }
 
+void MacroDisplay::setMaxKeymapEvent(std::uint32_t most)
+{
+    m_MaxKeymapEvent = std::min<std::uint32_t>(most, kEventCount);
+}
+
 void MacroDisplay::enablewindow(bool enable)
 {
     m_bEnable = enable;
@@ -44,15 +47,12 @@ void MacroDisplay::enablewindow(bool enable)
 void MacroDisplay::setKeymapInfo(std::span<const KeymapEvent> stored)
 {
     auto &[count, events] = m_MacroInfo;
-    const std::size_t most =
-        std::min({stored.size(), events.size(), std::size_t{m_MaxKeymapEvent}});
-    const auto loaded = stored.first(most);
+    const auto loaded = stored.first(std::min<std::size_t>(stored.size(), m_MaxKeymapEvent));
     const auto end = std::ranges::find(loaded, 0U, &KeymapEvent::kind);
     events.fill({});
     std::copy(loaded.begin(), end, events.begin());
     count = static_cast<std::uint32_t>(end - loaded.begin());
-    m_showsNewest = false;
-    update();
+    showBeginning();
 }
 
 QString MacroDisplay::GetKeycodeString(std::uint8_t keycode)
@@ -60,12 +60,17 @@ QString MacroDisplay::GetKeycodeString(std::uint8_t keycode)
     return QLatin1String(keyName(keycode));
 }
 
-QString MacroDisplay::GetMacroOutputString() const
+QString MacroDisplay::text() const
 {
     const std::span<const KeymapEvent> list(m_MacroInfo.events);
-    QString text = eventText(list.first(m_MacroInfo.count), {m_DisplayDelay, m_DisplayUpAndDown});
-    systemLog("%s", qPrintable(text));
-    return text;
+    return eventText(list.first(m_MacroInfo.count), {m_DisplayDelay, m_DisplayUpAndDown});
+}
+
+QString MacroDisplay::GetMacroOutputString() const
+{
+    QString output = text();
+    systemLog("%s", qPrintable(output));
+    return output;
 }
 
 void MacroDisplay::keyDown(const KeyStroke &stroke)
@@ -99,11 +104,11 @@ void MacroDisplay::flagsChanged(const KeyStroke &stroke)
     systemLog("Get flagsChanged Event:keycode:%x,type:%x,Downup:%x", stroke.keyCode,
               numberOf(stroke.type), flag);
     // The flag is that of both keys: one released while the other is held counts as a press.
-    const bool isPress = mask == 0 || flag != 0 || stroke.keyCode == kCapsLock;
+    const bool isPress = mask == 0 || flag != 0 || stroke.keyCode == kCapsLockKey;
     record(stroke, isPress ? kKeyPress : kKeyRelease);
     // Caps Lock tells of its lock only. With one slot left its release goes beyond the limit, on
     // purpose.
-    if (stroke.keyCode == kCapsLock)
+    if (stroke.keyCode == kCapsLockKey)
         append(stroke.keyCode, kKeyRelease);
 }
 
@@ -136,7 +141,7 @@ void MacroDisplay::endDelay(std::uint32_t time)
 void MacroDisplay::append(std::uint16_t keycode, std::uint32_t kind)
 {
     auto &[count, events] = m_MacroInfo;
-    if (count >= events.size())
+    if (count >= events.size()) // beyond the greatest limit
         return;
     events.at(count) = {keycode, kind, 0};
     ++count;
@@ -146,10 +151,11 @@ void MacroDisplay::append(std::uint16_t keycode, std::uint32_t kind)
 
 void MacroDisplay::mouseUp(const ViewMouseEvent &event)
 {
+    // Let go of elsewhere, the press was no click.
     if (!m_bEnable || !rect().contains(event.event->position().toPoint()))
         return;
     setFocus(Qt::MouseFocusReason);
     // The events stay in their slots, out of use, on purpose.
     m_MacroInfo.count = 0;
-    update();
+    showBeginning();
 }

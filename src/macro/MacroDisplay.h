@@ -17,8 +17,8 @@ class MacroDisplay : public KeyStrokeView
 public:
     explicit MacroDisplay(QWidget *parent, UpRect frame = {});
 
-    /// The most events that recording accepts and loading takes; 32 at first.
-    void setMaxKeymapEvent(std::uint32_t most) { m_MaxKeymapEvent = most; }
+    /// The most events that recording accepts and loading takes, up to 500; 32 at first.
+    void setMaxKeymapEvent(std::uint32_t most);
     /// Whether the view gets higher as its text needs more lines; at first it does not. The next
     /// redraw shows the effect, as for the two below.
     void enableScroll(bool enable) { m_bEnableScroll = enable; }
@@ -59,7 +59,9 @@ private:
     void drawCells(Canvas &canvas, const QString &text);
     bool needsLine(const QString &text) const;
     void growByOneLine();
+    void showBeginning();
     void showNewest();
+    QString text() const;
 
     struct
     {
@@ -80,5 +82,5 @@ private:
 
     bool m_isGrowing = false;   ///< will be a line higher in a moment
     bool m_showsNewest = false; ///< the newest event is to be scrolled into sight
-    UpRect m_newest;            ///< the last cell drawn
+    QRect m_newest;             ///< the line drawn last, y downwards
 };

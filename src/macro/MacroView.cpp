@@ -19,10 +19,13 @@ constexpr QColor kFieldLit(255, 223, 128);
 
 /// Where there is no place, the control is hidden: by itself one without a size would still be
 /// reached by the tab key.
-void put(QWidget &control, Placed &placed, UpRect place)
+void put(const PlacedWidget &control, UpRect place)
 {
-    placed.setFrame(place);
-    place.width > 0 ? control.show() : hideQuietly(control);
+    control.placed->setFrame(place);
+    if (place.width > 0)
+        control.widget->show();
+    else
+        hideQuietly(*control.widget);
 }
 
 UpRect around(UpRect rect, int margin)
@@ -54,7 +57,7 @@ Control *MacroView::addField(Field field, Control *control)
     const FieldRow &row = rowOf(field);
     control->setObjectName(QLatin1String(row.name));
     control->setAccessibleName(QLatin1String(row.description));
-    m_fields[static_cast<std::size_t>(field)] = {control, control};
+    m_fields[static_cast<std::size_t>(field)] = PlacedWidget(control);
     return control;
 }
 
@@ -115,9 +118,9 @@ void MacroView::layOut(Layout layout)
 {
     m_layout = layout;
     for (std::size_t i = 0; i < kFieldCount; ++i)
-        put(*m_fields[i].widget, *m_fields[i].place, kFields[i].places.in(layout));
+        put(m_fields[i], kFields[i].places.in(layout));
     for (std::size_t i = 0; i < kChoiceCount; ++i)
-        put(*m_choices[i], *m_choices[i], kChoices[i].box.in(layout));
+        put(PlacedWidget(m_choices[i]), kChoices[i].box.in(layout));
 }
 
 void MacroView::drawRect(Canvas &canvas)

@@ -41,11 +41,14 @@ public:
     /// Makes a mode the copy's and lays the dialog out for it. A number that is no mode is stored,
     /// selects no radio button and leaves the layout as it was.
     void setMacroDelaymode(std::uint32_t mode);
-    /// Empties what belongs to the mode: the events, or the text and both keys.
+    /// Empties what belongs to the mode: the events, or the text and both keys. To a number that is
+    /// no mode nothing belongs.
     void ClearMacro();
     /// Writes the copy into the current profile: over the macro that was opened, or as a new one
     /// into the first slot without a name. Without a free slot it is lost, on purpose silently.
     void saveMacroInfo();
+    /// Whether saveMacroInfo() has found a slot.
+    bool hasSaved() const { return m_hasSaved; }
     /// A click on a control, told apart by its tag; others are ignored.
     void buttonAction(HoverButton *sender);
 
@@ -58,13 +61,6 @@ protected:
 private:
     using Choice = macrolayout::Choice;
     using Field = macrolayout::Field;
-
-    /// A field as what it is and as what is placed; the same object twice.
-    struct FieldControl
-    {
-        QWidget *widget = nullptr;
-        Placed *place = nullptr;
-    };
 
     // Building and layout (MacroView.cpp)
     void buildFields();
@@ -93,6 +89,8 @@ private:
     void showKeysAndText();
     void showKey(Choice box, MacroDisplay &view, std::uint32_t flag,
                  std::span<const KeymapEvent> keys);
+    void clearEvents();
+    void clearKeysAndText();
     void setDefaultKeys();
     void takeLoopCount();
     void takeTexts();
@@ -110,6 +108,7 @@ private:
 
     MacroInfo m_MacroInfo{};
     std::int32_t m_MacroID = -1;
+    bool m_hasSaved = false;
     Action<MacroView *> m_okAction;
     Action<MacroView *> m_cancelAction;
 
@@ -121,7 +120,7 @@ private:
     TextArea *pCopyTextfield = nullptr;
     MacroDisplay *pSendDisplayView = nullptr;
     TextField *pLoopTextfield = nullptr;
-    std::array<FieldControl, macrolayout::kFieldCount> m_fields;
+    std::array<PlacedWidget, macrolayout::kFieldCount> m_fields;
     std::array<HoverButton *, macrolayout::kChoiceCount> m_choices{};
     macrolayout::Layout m_layout = macrolayout::Layout::Events;
 };

@@ -6,10 +6,6 @@
 
 #include <span>
 
-/// The kinds of a KeymapEvent.
-inline constexpr std::uint32_t kKeyPress = 1;
-inline constexpr std::uint32_t kKeyRelease = 2;
-
 /// What a delay counts, in milliseconds.
 inline constexpr std::uint32_t kDelayUnit = 50;
 

@@ -25,9 +25,11 @@ void MacroDisplay::drawRect(Canvas &canvas)
 
 void MacroDisplay::drawCells(Canvas &canvas, const QString &text)
 {
-    for (const TextCell &cell : layOutCells(text, height(), m_charHeight)) {
+    const std::vector<TextCell> cells = layOutCells(text, height(), m_charHeight);
+    const UpRect last = cells.empty() ? UpRect{} : cells.back().place;
+    m_newest = UpHost(height()).down({0, last.y, width(), m_charHeight});
+    for (const TextCell &cell : cells) {
         m_charWidth = cell.place.width;
-        m_newest = cell.place;
         // Most of a long list is scrolled out of sight.
         if (!canvas.isExposed(cell.place))
             continue;
@@ -50,6 +52,8 @@ bool MacroDisplay::needsLine(const QString &text) const
 void MacroDisplay::growByOneLine()
 {
     m_isGrowing = false;
+    if (!needsLine(text())) // another list was loaded meanwhile
+        return;
     resize(width(), height() + m_charHeight);
     update();
 }
@@ -59,5 +63,12 @@ void MacroDisplay::showNewest()
     if (!m_showsNewest)
         return;
     m_showsNewest = false;
-    scrollIntoView(*this, UpHost(height()).down(m_newest));
+    scrollIntoView(*this, m_newest);
+}
+
+void MacroDisplay::showBeginning()
+{
+    m_showsNewest = false;
+    scrollIntoView(*this, {0, 0, width(), m_charHeight});
+    update();
 }

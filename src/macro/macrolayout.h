@@ -158,6 +158,6 @@ consteval bool tablesHold()
     }
     return std::ranges::all_of(kFields, [](const FieldRow &row) { return liesInside(row.places); });
 }
-static_assert(tablesHold(), "choices in the order of their tags, everything inside the dialog");
+static_assert(tablesHold(), "choices in the order of their tags, controls inside the dialog");
 
 } // namespace macrolayout

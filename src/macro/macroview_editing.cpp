@@ -12,24 +12,17 @@ using namespace macrolayout;
 namespace {
 
 constexpr std::uint32_t kEnter = 36;
-constexpr std::uint32_t kDefaultKeys[] = {kKeyPress, kKeyRelease};
 constexpr std::int32_t kLeastLoops = 1;
 constexpr std::int32_t kMostLoops = 999;
 constexpr const char *kDefaultName = "Custom";
 
 /// Leaves the delays as they are.
-void setEnter(std::span<KeymapEvent> keys)
+void setEnter(std::span<KeymapEvent, kMostKeyEvents> keys)
 {
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-        keys[i].keycode = kEnter;
-        keys[i].kind = kDefaultKeys[i];
-    }
-}
-
-QString textOf(std::span<const char> field)
-{
-    const std::string_view text = GetText(field);
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    for (KeymapEvent &key : keys)
+        key.keycode = kEnter;
+    keys.front().kind = kKeyPress;
+    keys.back().kind = kKeyRelease;
 }
 
 void store(std::span<char> field, const QString &text)
@@ -79,7 +72,7 @@ void MacroView::setMacroDelaymode(std::uint32_t mode)
 
 void MacroView::initSetting()
 {
-    pTextfieldMacroName->setText(textOf(m_MacroInfo.MACRO_NAME));
+    pTextfieldMacroName->load(GetString(m_MacroInfo.MACRO_NAME));
     setMacroDelaymode(m_MacroInfo.MODE);
     if (m_MacroInfo.MODE == kModeCopyPaste)
         showKeysAndText();
@@ -96,7 +89,7 @@ void MacroView::showEvents(const ModeRow &mode)
     pMacroDisplayView->update();
     showLoop();
     const auto count = static_cast<std::int32_t>(m_MacroInfo.MACRO_LOOP);
-    pLoopTextfield->setText(QString::number(count == 0 ? 1 : count));
+    pLoopTextfield->load(QString::number(count == 0 ? 1 : count));
 }
 
 void MacroView::showKeysAndText()
@@ -104,7 +97,7 @@ void MacroView::showKeysAndText()
     showKey(Choice::ButtonStartKey, *pStartDisplayView, m_MacroInfo.bSTARTKEY,
             m_MacroInfo.STARTKEY);
     showKey(Choice::ButtonSendKey, *pSendDisplayView, m_MacroInfo.bSENDKEY, m_MacroInfo.SENDKEY);
-    pCopyTextfield->setPlainText(textOf(m_MacroInfo.COPY_PASTER));
+    pCopyTextfield->load(GetString(m_MacroInfo.COPY_PASTER));
 }
 
 void MacroView::showKey(Choice box, MacroDisplay &view, std::uint32_t flag,
@@ -132,16 +125,25 @@ void MacroView::setDefaultKeys()
 
 void MacroView::ClearMacro()
 {
-    if (m_MacroInfo.MODE != kModeCopyPaste) {
-        std::ranges::fill(m_MacroInfo.KEYMAP, KeymapEvent{});
-        pMacroDisplayView->setKeymapInfo(m_MacroInfo.KEYMAP);
-        return;
-    }
+    if (m_MacroInfo.MODE == kModeCopyPaste)
+        clearKeysAndText();
+    else if (modeRow(m_MacroInfo.MODE))
+        clearEvents();
+}
+
+void MacroView::clearEvents()
+{
+    std::ranges::fill(m_MacroInfo.KEYMAP, KeymapEvent{});
+    pMacroDisplayView->setKeymapInfo(m_MacroInfo.KEYMAP);
+}
+
+void MacroView::clearKeysAndText()
+{
     // The check boxes and the views' grey catch up when the mode is shown anew, on purpose.
     setDefaultKeys();
     pStartDisplayView->setKeymapInfo(m_MacroInfo.STARTKEY);
     pSendDisplayView->setKeymapInfo(m_MacroInfo.SENDKEY);
-    pCopyTextfield->clear();
+    pCopyTextfield->load({});
 }
 
 struct MacroView::ActionRow
@@ -242,6 +244,7 @@ void MacroView::confirm()
     takeTexts();
     takeLoopCount();
     if (hasLoopError()) {
+        // In a mode that hides the field, too: on purpose the dialog then stays without a sign.
         pLoopTextfield->setFocus(Qt::OtherFocusReason);
         return;
     }
@@ -263,6 +266,8 @@ MacroInfo *MacroView::slotToSave() const
 
 void MacroView::saveMacroInfo()
 {
-    if (MacroInfo *const slot = slotToSave())
+    MacroInfo *const slot = slotToSave();
+    m_hasSaved = slot != nullptr;
+    if (slot)
         *slot = m_MacroInfo;
 }

@@ -79,7 +79,8 @@ void rightbarMacro::refreshMacroList()
     list().update();
     // On purpose it never becomes lower again.
     if (list().getCount() > kRowsBeforeItGrows)
-        list().resize(kListSize.width(), list().getCount() * kLook.rowHeight);
+        list().resize(kListSize.width(),
+                      std::max(list().height(), list().getCount() * kLook.rowHeight));
     keepToRows();
 }
 
@@ -138,10 +139,10 @@ void rightbarMacro::deletebuttonAction(HoverButton *sender)
 }
 
 /// The bar's, or where there is none its own.
-custumwindow &rightbarMacro::mainWindow() const
+QWidget &rightbarMacro::mainWindow() const
 {
-    QWidget *const owner = window()->parentWidget();
-    return static_cast<custumwindow &>(owner ? *owner->window() : *window());
+    const QWidget *const owner = window()->parentWidget();
+    return owner ? *owner->window() : *window();
 }
 
 void rightbarMacro::DisplayMacroWindow(std::int32_t macro)
@@ -153,12 +154,14 @@ void rightbarMacro::DisplayMacroWindow(std::int32_t macro)
     pMacroView->runModal();
 }
 
-void rightbarMacro::MacroOKAction(MacroView * /*sender*/)
+void rightbarMacro::MacroOKAction(MacroView *sender)
 {
+    const bool isChanged = sender->hasSaved();
     releaseEditor();
     refreshMacroList();
     systemLog("MacroOKAction");
-    m_macrosChangeAction.send();
+    if (isChanged)
+        m_macrosChangeAction.send();
 }
 
 void rightbarMacro::MacroCancelAction(MacroView * /*sender*/)

@@ -2,7 +2,6 @@
 
 #include "controls/functionlistpanel.h"
 
-class custumwindow;
 class MacroDelWarn;
 class MacroView;
 class SkinScrollArea;
@@ -53,7 +52,7 @@ protected:
 
 private:
     void keepToRows();
-    custumwindow &mainWindow() const;
+    QWidget &mainWindow() const;
     void releaseEditor();
     void deleteMacro(unsigned slot);
 

@@ -113,7 +113,8 @@ public:
     void buttonRightAction(HoverButton *sender);
     /// Assigns a function to the selected mouse button; nothing when none is selected.
     void changeCurrentButtonFunction(FunctionCode code) override;
-    /// The buttons that carry macros show the names that these have now.
+    /// The buttons that carry macros show the names that these have now, and there is something to
+    /// apply.
     void macrosChanged() override;
     /// Assigns what was dropped on a mouse button, selected or not.
     void DragDropButtonAction(HoverButton *button);

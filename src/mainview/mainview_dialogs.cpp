@@ -9,9 +9,8 @@
 template <class Dialog>
 Dialog *MainView::makeDialog()
 {
-    auto &main = static_cast<custumwindow &>(*window());
-    auto *const dialog = makeDialogAt<Dialog>(main);
-    static_cast<custumwindow *>(dialog->window())->centerOver(main);
+    auto *const dialog = makeDialogAt<Dialog>(*window());
+    static_cast<custumwindow *>(dialog->window())->centerOver(*window());
     return dialog;
 }
 

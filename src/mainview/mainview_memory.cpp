@@ -12,7 +12,7 @@ std::uint32_t eventBytes(const MacroInfo &macro)
     for (const KeymapEvent &event : macro.KEYMAP) {
         if (event.kind == 0)
             break;
-        if (event.kind == 1 || event.kind == 2)
+        if (event.kind == kKeyPress || event.kind == kKeyRelease)
             bytes += 2;
         if (macro.MODE == kModeRecordDelay && event.delay != 0)
             bytes += 2;

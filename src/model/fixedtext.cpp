@@ -1,7 +1,7 @@
 #include "model/fixedtext.h"
 
 #include <QtCore/QByteArrayView>
-#include <QtCore/QString>
+#include <QtCore/QStringConverter>
 
 #include <algorithm>
 #include <string>
@@ -80,4 +80,11 @@ std::string_view GetText(std::span<const char> field)
 {
     const auto end = std::find(field.begin(), field.end(), '\0');
     return {field.data(), static_cast<std::size_t>(end - field.begin())};
+}
+
+QString GetString(std::span<const char> field)
+{
+    const std::string_view text = GetText(field);
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtCore/QString>
+
 #include <span>
 #include <string_view>
 
@@ -12,3 +14,5 @@ void SetText(std::span<char> field, std::string_view text);
 
 /// The text of `field`: up to the first NUL, or to the end of the array.
 std::string_view GetText(std::span<const char> field);
+/// The same with every character of it, an initial byte order mark too.
+QString GetString(std::span<const char> field);

@@ -16,12 +16,16 @@ inline constexpr unsigned kEventCount = 500;
 /// What a mouse button does; see functions/functioncodes.h.
 using FunctionCode = std::uint32_t;
 
+/// The kinds of a keyboard event; 0 marks an empty slot, which ends the list.
+inline constexpr std::uint32_t kKeyPress = 1;
+inline constexpr std::uint32_t kKeyRelease = 2;
+
 /// One keyboard event of a macro.
 struct KeymapEvent
 {
     std::uint32_t keycode; ///< the platform's virtual key code
-    std::uint32_t kind;    ///< 1 = press, 2 = release, 0 = empty slot and end of the list
-    std::uint32_t delay;   ///< pause after the event, in units of 50 ms
+    std::uint32_t kind;
+    std::uint32_t delay; ///< pause after the event, in units of 50 ms
 };
 
 /// What playing a macro sends.

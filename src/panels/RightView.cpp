@@ -180,6 +180,8 @@ void RightView::openMiniBar()
     showToggleAt(kToggleOpen);
     m_isMiniBarHidden = false;
     pMacroView->setHiddenButton(false);
+    // The profile may have changed while the bar was shut.
+    pMacroView->refreshMacroList();
     // A header may have been clicked while the bar was sliding.
     manageViewPos();
 }
@@ -211,9 +213,8 @@ void RightView::show(CollapsiblePanel *panel)
 
 void RightView::refreshMacroList()
 {
-    // A collapsed one does so when it expands.
-    if (pMacroView->GetExpanded())
-        pMacroView->refreshMacroList();
+    // A collapsed one too: its "Delete" shows and deletes what is selected.
+    pMacroView->refreshMacroList();
 }
 
 void RightView::setAllWindowclose()

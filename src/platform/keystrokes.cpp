@@ -9,30 +9,37 @@
 
 namespace {
 
-constexpr std::uint16_t kCapsLock = 57;
-
 struct ModifierKey
 {
     std::uint16_t keyCode;
     std::uint32_t mask;
+    std::uint32_t
+        x11; ///< X11's bit in the modifiers of an event, as they were before it; 0 for none
 };
 
 constexpr ModifierKey kModifierKeys[] = {
-    {54, 0x100000},       {55, 0x100000}, // Command
-    {56, 0x20000},        {60, 0x20000},  // Shift
-    {58, 0x80000},        {61, 0x80000},  // Option
-    {59, 0x40000},        {62, 0x40000},  // Control
-    {63, 0x800000},                       // Function
-    {kCapsLock, 0x10000},
+    {54, 0x100000, 0x40},
+    {55, 0x100000, 0x40}, // Command
+    {56, 0x20000, 0x1},
+    {60, 0x20000, 0x1}, // Shift
+    {58, 0x80000, 0x8},
+    {61, 0x80000, 0x8}, // Option
+    {59, 0x40000, 0x4},
+    {62, 0x40000, 0x4}, // Control
+    {63, 0x800000, 0},  // Function
+    {kCapsLockKey, 0x10000, 0x2},
 };
 
-/// X11's bit for Caps Lock in the modifiers of an event, as they were before it.
-constexpr std::uint32_t kLockBit = 2;
-
-/// A press of Caps Lock switches the lock over.
-std::uint32_t lockFlagAfter(const QKeyEvent &press)
+/// Null for any other key.
+const ModifierKey *modifierOf(std::uint16_t keyCode)
 {
-    return (press.nativeModifiers() & kLockBit) != 0 ? 0 : modifierMask(kCapsLock);
+    const auto *const row = std::ranges::find(kModifierKeys, keyCode, &ModifierKey::keyCode);
+    return row == std::end(kModifierKeys) ? nullptr : row;
+}
+
+bool wasOn(const ModifierKey &key, const QKeyEvent &event)
+{
+    return (event.nativeModifiers() & key.x11) != 0;
 }
 
 KeyStroke strokeOf(const QKeyEvent &event, KeyEventType type, std::uint16_t keyCode,
@@ -45,8 +52,8 @@ KeyStroke strokeOf(const QKeyEvent &event, KeyEventType type, std::uint16_t keyC
 
 std::uint32_t modifierMask(std::uint16_t keyCode)
 {
-    const auto *const row = std::ranges::find(kModifierKeys, keyCode, &ModifierKey::keyCode);
-    return row == std::end(kModifierKeys) ? 0 : row->mask;
+    const ModifierKey *const key = modifierOf(keyCode);
+    return key ? key->mask : 0;
 }
 
 std::optional<KeyStroke> KeyStrokes::read(const QKeyEvent &event)
@@ -57,10 +64,11 @@ std::optional<KeyStroke> KeyStrokes::read(const QKeyEvent &event)
         return {};
     const auto keyCode = virtualKeyCode(event);
     if (!keyCode) {
-        systemLog("no virtual key code for scan code %u", event.nativeScanCode());
+        if (!event.isAutoRepeat())
+            systemLog("no virtual key code for scan code %u", event.nativeScanCode());
         return {};
     }
-    if (modifierMask(*keyCode) != 0)
+    if (modifierOf(*keyCode))
         return readModifier(event, *keyCode);
     return strokeOf(event, isPress ? KeyEventType::KeyDown : KeyEventType::KeyUp, *keyCode,
                     heldFlags());
@@ -68,21 +76,42 @@ std::optional<KeyStroke> KeyStrokes::read(const QKeyEvent &event)
 
 std::optional<KeyStroke> KeyStrokes::readModifier(const QKeyEvent &event, std::uint16_t keyCode)
 {
-    const bool isPress = event.type() == QEvent::KeyPress;
-    if (event.isAutoRepeat() || (keyCode == kCapsLock && !isPress))
+    if (event.isAutoRepeat())
         return {};
-    if (keyCode == kCapsLock)
-        return strokeOf(event, KeyEventType::FlagsChanged, keyCode,
-                        heldFlags() | lockFlagAfter(event));
-    m_held.set(keyCode, isPress);
-    return strokeOf(event, KeyEventType::FlagsChanged, keyCode, heldFlags());
+    std::uint32_t lock = 0;
+    if (keyCode == kCapsLockKey) {
+        if (event.type() != QEvent::KeyPress)
+            return {};
+        // Its press switches the lock over.
+        const ModifierKey &key = *modifierOf(keyCode);
+        lock = wasOn(key, event) ? 0 : key.mask;
+    } else {
+        event.type() == QEvent::KeyPress ? pressed(event, keyCode) : released(keyCode);
+    }
+    return strokeOf(event, KeyEventType::FlagsChanged, keyCode, heldFlags() | lock);
 }
 
-/// The events themselves carry the modifiers as they were before, and not which of two keys is
-/// down.
+/// The events carry the modifiers as they were before, and not which of two keys is down.
+void KeyStrokes::pressed(const QKeyEvent &event, std::uint16_t keyCode)
+{
+    const ModifierKey &key = *modifierOf(keyCode);
+    if (!wasOn(key, event))
+        m_heldBefore &= ~key.mask;
+    else if ((heldFlags() & key.mask) == 0)
+        m_heldBefore |= key.mask;
+    m_held.set(keyCode);
+}
+
+void KeyStrokes::released(std::uint16_t keyCode)
+{
+    if (!m_held.test(keyCode))
+        m_heldBefore &= ~modifierMask(keyCode);
+    m_held.reset(keyCode);
+}
+
 std::uint32_t KeyStrokes::heldFlags() const
 {
-    std::uint32_t flags = 0;
+    std::uint32_t flags = m_heldBefore;
     for (const ModifierKey &key : kModifierKeys)
         flags |= m_held.test(key.keyCode) ? key.mask : 0;
     return flags;

@@ -22,6 +22,9 @@ struct KeyStroke
     std::uint32_t time = 0;          ///< on the display's monotonic clock, in milliseconds; wraps
 };
 
+/// The virtual key code of Caps Lock.
+inline constexpr std::uint16_t kCapsLockKey = 57;
+
 /// The flag of a modifier key, shared by the left and the right one; 0 for any other key.
 std::uint32_t modifierMask(std::uint16_t keyCode);
 
@@ -36,11 +39,14 @@ public:
     /// a virtual key code is logged.
     std::optional<KeyStroke> read(const QKeyEvent &event);
     /// The keyboard was elsewhere: no modifier key counts as held down any more.
-    void forget() { m_held.reset(); }
+    void forget() { *this = {}; }
 
 private:
     std::optional<KeyStroke> readModifier(const QKeyEvent &event, std::uint16_t keyCode);
+    void pressed(const QKeyEvent &event, std::uint16_t keyCode);
+    void released(std::uint16_t keyCode);
     std::uint32_t heldFlags() const;
 
-    std::bitset<128> m_held; ///< modifier keys, by virtual key code
+    std::bitset<128> m_held;        ///< modifier keys, by virtual key code
+    std::uint32_t m_heldBefore = 0; ///< flags of those that were down before their events came here
 };

@@ -11,6 +11,7 @@ bool KeyStrokeView::event(QEvent *event)
         event->accept(); // no key is a shortcut here
         return true;
     case QEvent::KeyPress: // before the toolkit takes the tab key
+    case QEvent::KeyRelease:
         take(static_cast<QKeyEvent *>(event));
         return true;
     default:

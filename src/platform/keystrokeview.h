@@ -17,8 +17,6 @@ protected:
     virtual void flagsChanged(const KeyStroke &stroke) = 0;
 
     bool event(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) final { take(event); }
-    void keyReleaseEvent(QKeyEvent *event) final { take(event); }
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 

@@ -43,6 +43,19 @@ protected:
     UpRect m_frame;
 };
 
+/// Any widget that is placed: the same object as what it is and as what is moved.
+struct PlacedWidget
+{
+    PlacedWidget() = default;
+    template <class Control>
+    explicit PlacedWidget(Control *control) : widget(control), placed(control)
+    {
+    }
+
+    QWidget *widget = nullptr;
+    Placed *placed = nullptr;
+};
+
 /// Puts every placed child of `view` where its upward frame says; called when its height changes.
 void placeChildren(const QWidget &view);
 
@@ -54,7 +67,7 @@ public:
     using Base::Base;
 
     /// Where it is; a window, on the screen.
-    UpRect frame() const { return this->isWindow() ? hostOf(*this).up(this->geometry()) : m_frame; }
+    UpRect frame() const { return hostOf(*this).up(this->geometry()); }
 
     void place() final { this->setGeometry(hostOf(*this).down(m_frame)); }
 };

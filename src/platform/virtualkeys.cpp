@@ -6,6 +6,7 @@
 
 namespace {
 
+/// Fn has a number above those that X11 can deliver.
 constexpr KeyCodeRow kRows[] = {
     {30, 0},    // A
     {31, 1},    // S
