@@ -1,6 +1,6 @@
 #include "platform/keystrokeview.h"
 
-#include "platform/keywindow.h"
+#include "platform/keyboardhold.h"
 
 KeyStrokeView::KeyStrokeView(QWidget *parent) : View(parent) {}
 

@@ -1,7 +1,6 @@
 #include "platform/keywindow.h"
 
 #include <QtCore/QEvent>
-#include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
@@ -23,14 +22,6 @@ void makeKeyWindow(QWidget &window)
 {
     if (QApplication::activeWindow())
         window.activateWindow();
-}
-
-void holdKeyboard(QWidget &window, bool hold)
-{
-    // Elsewhere the toolkit only warns that it cannot.
-    QWindow *const handle = window.windowHandle();
-    if (handle && QGuiApplication::platformName() == QLatin1String("xcb"))
-        handle->setKeyboardGrabEnabled(hold);
 }
 
 QWidget *keyboardWithin(const QWidget &part)

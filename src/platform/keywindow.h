@@ -16,10 +16,6 @@ void makeKeyAndOrderFront(QWidget &window);
 /// Gives `window` the keyboard, unless another program has it.
 void makeKeyWindow(QWidget &window);
 
-/// Has all keys come to `window`, the desktop's own shortcuts included, until it is let go or the
-/// window hides. Where the display does not offer that, only what the desktop leaves comes.
-void holdKeyboard(QWidget &window, bool hold);
-
 /// What in `part`, or `part` itself, has the keyboard when their window has it; null when nothing.
 QWidget *keyboardWithin(const QWidget &part);
 

@@ -1,6 +1,7 @@
 #include "platform/taskswitcher.h"
 
-#include <QtGui/QGuiApplication>
+#include "platform/x11connection.h"
+
 #include <QtWidgets/QWidget>
 
 #ifdef Q_OS_LINUX
@@ -52,9 +53,7 @@ Atoms askAtoms(xcb_connection_t *connection)
 
 void keepOutOfTaskSwitcher(const QWidget &window)
 {
-    const auto *const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // Without a screen there is an interface, but no connection behind it.
-    xcb_connection_t *const connection = x11 ? x11->connection() : nullptr;
+    xcb_connection_t *const connection = x11Connection();
     if (!connection)
         return;
     static const Atoms atoms = askAtoms(connection);
