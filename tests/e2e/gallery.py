@@ -3,6 +3,9 @@
 import plistlib
 import signal
 
+from macroeditor import (COPY_PASTE, NO_DELAY, RECORD_DELAY, TEXT, DeletionWarning,
+                         click_list_button, edit_macro, new_macro)
+from macrokeys import MOST_EVENTS, taps
 from settingsfile import changed, factory_values, rich_settings
 from sidepanels import CPI, HANDLE, MACROS, OPEN_SIZE, PROFILES, RIGHT_BAR, TREE, SidePanels
 from stage import LIST_TITLE, MAIN_TITLE, Stage, wait_for
@@ -21,11 +24,30 @@ MENUS = {"menu-profile": ("BtnProfileMenu",), "menu-polling-rate": ("BtnToolsMen
          "menu-lift-distance": ("BtnToolsMenu", 1), "menu-help": ("BtnHelpMenu",)}
 PROGRESS = "Applying profile to on-board memory..."
 CHANGE_PROFILE = 32  # a function that the mouse cannot store
+# The modes of macros, as the file holds them.
+MODES = {"macro-copy-paste": (COPY_PASTE, 0), "macro-text": (TEXT, 1),
+         "macro-record-delay": (RECORD_DELAY, 2), "macro-no-delay": (NO_DELAY, 3)}
+LONG_MACRO_ROW = len(MODES)
+PLAYED_KEYS = 0, 49, 122, 123, 56, 36, 14
+
+
+def sample_macros():
+    """One of each mode, and one that is full."""
+    macros = rich_settings()["PROFILE_1"]
+    keys = taps(*PLAYED_KEYS * MOST_EVENTS)[:MOST_EVENTS]
+    events = "".join(f"{key},{kind},{number % 30}," for number, (key, kind) in enumerate(keys))
+    short = {"KEYMAP": events[:events.index("36,1,")], "COPY_PASTER": "/say The dragon is mine!"}
+    samples = [short | {"MACRO_NAME": name.removeprefix("macro-"), "MODE": mode, "MACRO_LOOP": 25,
+                        "bLOOP": mode // 2, "bSENDKEY": 0, "STARTKEY": "36,1,0,36,2,0,"}
+               for name, (_, mode) in MODES.items()]
+    samples.append({"MACRO_NAME": "A long fight", "MODE": 2, "KEYMAP": events})
+    return {f"MACRO_{slot}": macros[f"MACRO_{slot}"] | sample
+            for slot, sample in enumerate(samples, 1)}
 
 
 def sample_settings():
     """A profile as a player has it, and a second one that cannot be saved on board."""
-    return changed(rich_settings(), PROFILE_1=factory_values(),
+    return changed(rich_settings(), PROFILE_1=factory_values() | sample_macros(),
                    PROFILE_2={"BUTTON_14": CHANGE_PROFILE})
 
 
@@ -64,6 +86,7 @@ class Gallery:
         self.take_progress()
         self.take_bars()
         self.take_panels()
+        self.take_macros()
 
     def take_list(self):
         self.stage.click_control("Button5", button=3)
@@ -118,7 +141,7 @@ class Gallery:
         self.take("bars")
 
     def take_panels(self):
-        panels = SidePanels(self.stage)
+        self.panels = panels = SidePanels(self.stage)
         for name, (panel, row) in PANELS.items():
             panels.expand(panel)
             if panel == TREE:
@@ -130,6 +153,33 @@ class Gallery:
         drag.move_to(*self.stage.middle_of("Button9"))
         self.take("drag")
         drag.release()
+
+    def take_macros(self):
+        self.panels.expand(MACROS)
+        editor = new_macro(self.panels)
+        self.take("macro-new")
+        editor.take_keyboard()
+        editor.record(["a", "shift+b", "Left", "F5"])
+        self.take("macro-recording")
+        editor.close_by("ButtonCancel")
+        for row, (name, (mode, _)) in enumerate(MODES.items()):
+            editor = edit_macro(self.panels, row, mode)
+            self.take(name)
+            editor.close_by("ButtonClose")
+        self.take_long_macro()
+        click_list_button(self.panels, "btnDelete")
+        warning = DeletionWarning(self.stage)
+        self.take("macro-warning")
+        warning.click("CheckButtonDel")
+        self.take("macro-warning-checked")
+        warning.close_by("ButtonCancel")
+
+    def take_long_macro(self):
+        editor = edit_macro(self.panels, LONG_MACRO_ROW, RECORD_DELAY)
+        self.take("macro-full")
+        editor.scroll_to_end()
+        self.take("macro-full-end")
+        editor.close_by("ButtonClose")
 
 
 def take_pictures(settings, programs, tools, pictures):

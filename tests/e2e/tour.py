@@ -1,6 +1,6 @@
 """Plays the main job on a virtual display with the programs as they are installed: button 5 gets
-"Mouse Button 4", the change is applied, and the driver process takes it. Then takes pictures of
-everything that the utility shows.
+"Mouse Button 4", a macro is recorded and put on button 9, both are applied, and the driver process
+takes them. Then takes pictures of everything that the utility shows.
 
 usage: tour.py PROGRAMS TOOLS SCREENSHOTS
        tour.py --put-back             only puts back what a tour that was killed left aside
@@ -17,11 +17,16 @@ import signal
 import sys
 
 from gallery import take_pictures
+from macroeditor import EVENTS, NAME, new_macro
+from macrokeys import stored_events, taps, without_delays
+from sidepanels import MACROS, SidePanels
 from stage import LIST_TITLE, Stage, wait_for
 
 SETTINGS = pathlib.Path("/Users/Shared/KT7R4/KT7R4Setting.xml")
 KEPT = SETTINGS.with_name("KT7R4Setting.xml.before-tour")
 MOUSE_BUTTON_4_ROW = 3
+FIRST_MACRO_CODE = 256
+RECORDED = {"space": 49, "w": 13}
 INTERRUPTIONS = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT)
 
 
@@ -91,12 +96,37 @@ def assign_and_apply(stage, pictures):
     stage.click_control("ButtonApply")
 
 
+def record_and_apply(stage, utility, pictures):
+    panels = SidePanels(stage)
+    panels.open()
+    panels.expand(MACROS)
+    editor = new_macro(panels)
+    editor.type_into(NAME, "Jump and run")
+    editor.take_keyboard(EVENTS)
+    editor.record(RECORDED)
+    stage.screenshot(pictures / "5-recorded.png")
+    editor.close_by("ButtonOK")
+    panels.begin_drag(MACROS, 0).drop_at(*stage.middle_of("Button9"))
+    utility.wait_for_line("DragDropButtonAction")
+    stage.screenshot(pictures / "6-macro-assigned.png")
+    stage.click_control("ButtonApply")
+
+
+def first_profile():
+    return plistlib.loads(SETTINGS.read_bytes())["PROFILE_1"]
+
+
+def check(found, expected, what):
+    assert found == expected, f"the settings file holds {found!r} as {what}"
+    say(f"the settings file holds {found!r} as {what}")
+
+
 def play_main_job(programs, pictures):
     with Stage(settings=SETTINGS) as stage:
         say("starting kt7r4d and KyrGM on a virtual display")
         driver = stage.start(programs / "kt7r4d", "--state-dir", stage.folder / "state")
         driver.wait_for_line("ready")
-        stage.start(programs / "KyrGM")
+        utility = stage.start(programs / "KyrGM")
         stage.wait_for_main_window()
         stage.screenshot(pictures / "1-start.png")
         say('right click on button 5, "Mouse Button 4", Apply')
@@ -104,9 +134,14 @@ def play_main_job(programs, pictures):
         taken = driver.wait_for_line("BUTTON_5=4")
         driver.wait_for_line("is on board")
         stage.screenshot(pictures / "4-applied.png")
-        code = plistlib.loads(SETTINGS.read_bytes())["PROFILE_1"]["BUTTON_5"]
-        assert code == 4, f"the settings file holds {code}"
-        say('the settings file holds 4 as "BUTTON_5" of "PROFILE_1"')
+        check(first_profile()["BUTTON_5"], 4, '"BUTTON_5" of "PROFILE_1"')
+        say(f"the driver process took: {taken}")
+        say('a new macro: "space" and "w", dragged onto button 9, Apply')
+        record_and_apply(stage, utility, pictures)
+        taken = driver.wait_for_line(f"BUTTON_9={FIRST_MACRO_CODE}")
+        stage.screenshot(pictures / "7-macro-applied.png")
+        keys = without_delays(stored_events(first_profile()["MACRO_1"]["KEYMAP"]))
+        check(keys, taps(*RECORDED.values()), 'keys of "MACRO_1"')
         say(f"the driver process took: {taken}")
 
 
