@@ -205,6 +205,16 @@ void pngListBox::keyDown(QKeyEvent *event)
         return moveSelection(-1);
     case Qt::Key_Down:
         return moveSelection(+1);
+    case Qt::Key_PageUp:
+        return moveSelection(-rowsInSight());
+    case Qt::Key_PageDown:
+        return moveSelection(+rowsInSight());
+    case Qt::Key_Home:
+        return moveSelection(-getCount());
+    case Qt::Key_End:
+        return moveSelection(+getCount());
+    case Qt::Key_F2:
+        return dbClickAction.send(this);
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return changeAction.send(this);
@@ -213,6 +223,11 @@ void pngListBox::keyDown(QKeyEvent *event)
     default:
         return View::keyDown(event);
     }
+}
+
+int pngListBox::rowsInSight() const
+{
+    return std::max(1, visibleRegion().boundingRect().height() / m_ItemHeight);
 }
 
 void pngListBox::moveSelection(int by)

@@ -14,8 +14,9 @@ inline constexpr int kProfileListTag = 4097;
 inline constexpr int kMacroListTag = 4098;
 
 /// A plain list of text rows with its own colours, one selected row, a double click, and rows that
-/// can be dragged onto buttons. Up and down move the selection, in a scroll area into view; Return
-/// sends what a click sends, Escape what the loss of the keyboard sends.
+/// can be dragged onto buttons. The arrow and page keys, Home and End move the selection, in a
+/// scroll area into view; Return sends what a click sends, F2 what a double click sends, Escape
+/// what the loss of the keyboard sends.
 class pngListBox : public View
 {
 public:
@@ -80,6 +81,7 @@ private:
     int rowAt(int fromTop) const;
     bool hasFunctions() const { return _tag >= kCpiListTag && _tag <= kMacroListTag; }
     void windowKeyChange();
+    int rowsInSight() const;
     void moveSelection(int by);
 
     QStringList pListArray;

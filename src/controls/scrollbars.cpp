@@ -23,7 +23,7 @@ constexpr QColor kLit(224, 168, 58);
 class ScrollBarStyle : public QProxyStyle
 {
 public:
-    ScrollBarStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+    explicit ScrollBarStyle(int width) : QProxyStyle(QStringLiteral("fusion")), m_width(width) {}
 
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override
@@ -31,7 +31,7 @@ public:
         switch (metric) {
         case PM_ScrollBarExtent:
         case PM_ScrollView_ScrollBarOverlap:
-            return kScrollBarWidth;
+            return m_width;
         case PM_ScrollBarSliderMin:
             return kShortestSlider;
         default:
@@ -106,13 +106,15 @@ private:
         const auto share = static_cast<int>(qint64{bar.pageStep} * whole / (range + bar.pageStep));
         return std::clamp(share, std::min(kShortestSlider, whole), whole);
     }
+
+    int m_width;
 };
 
 } // namespace
 
-void useSkinScrollBars(QAbstractScrollArea &area)
+void useSkinScrollBars(QAbstractScrollArea &area, int width)
 {
-    auto *const style = new ScrollBarStyle;
+    auto *const style = new ScrollBarStyle(width);
     style->setParent(&area);
     for (QScrollBar *bar : {area.verticalScrollBar(), area.horizontalScrollBar()})
         bar->setStyle(style);

@@ -1,12 +1,10 @@
 #include "controls/skinscrollarea.h"
 
-#include "controls/scrollbars.h"
-
-SkinScrollArea::SkinScrollArea(QWidget *parent) : Framed(parent)
+SkinScrollArea::SkinScrollArea(QWidget *parent, int barWidth) : Framed(parent)
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    useSkinScrollBars(*this);
+    useSkinScrollBars(*this, barWidth);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 

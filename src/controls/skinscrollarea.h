@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/scrollbars.h"
 #include "platform/view.h"
 
 #include <QtWidgets/QScrollArea>
@@ -9,7 +10,7 @@
 class SkinScrollArea : public Framed<QScrollArea>
 {
 public:
-    explicit SkinScrollArea(QWidget *parent);
+    explicit SkinScrollArea(QWidget *parent, int barWidth = kScrollBarWidth);
 
 protected:
     bool focusNextPrevChild(bool next) override;

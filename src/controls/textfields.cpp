@@ -3,6 +3,7 @@
 #include "controls/scrollbars.h"
 #include "platform/canvas.h"
 
+#include <QtCore/QMimeData>
 #include <QtGui/QTextDocument>
 
 #include <string_view>
@@ -10,6 +11,7 @@
 namespace {
 
 constexpr int kTextSize = 12;
+constexpr qsizetype kMostPasted = 32767;
 constexpr QColor kReadOnly(170, 170, 170);
 constexpr QColor kSelected(122, 72, 6);
 
@@ -27,8 +29,6 @@ void setLook(QWidget &field)
 {
     field.setFont(systemFont(kTextSize));
     setColours(field, kWhite);
-    // What is typed or clicked here is not meant for the window behind.
-    field.setAttribute(Qt::WA_NoMousePropagation);
 }
 
 QString withoutControls(QString text, std::u16string_view kept)
@@ -101,4 +101,10 @@ QString TextArea::plainText() const
     text.replace(QChar::ParagraphSeparator, u'\n');
     text.replace(QChar::LineSeparator, u'\n');
     return withoutControls(text, u"\n\t");
+}
+
+/// A megabyte without a blank would take the toolkit minutes to break into lines.
+void TextArea::insertFromMimeData(const QMimeData *source)
+{
+    insertPlainText(source->text().left(kMostPasted));
 }

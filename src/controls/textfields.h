@@ -31,7 +31,8 @@ private:
     QString m_before; ///< what stood there before the last edit
 };
 
-/// A field for several lines; the tab key leaves it.
+/// A field for several lines; the tab key leaves it. A paste brings at most 32767 characters, which
+/// is all that a TextField holds.
 class TextArea : public Framed<QPlainTextEdit>
 {
 public:
@@ -42,6 +43,9 @@ public:
     /// The text: as it was loaded, or once it was edited with lines ended by "\n" and every other
     /// control character but the tab as a blank.
     QString plainText() const;
+
+protected:
+    void insertFromMimeData(const QMimeData *source) override;
 
 private:
     QString m_loaded;

@@ -146,6 +146,7 @@ void MacroDisplay::append(std::uint16_t keycode, std::uint32_t kind)
     events.at(count) = {keycode, kind, 0};
     ++count;
     m_showsNewest = true;
+    m_newest = {}; // not drawn yet
     update();
 }
 

@@ -82,5 +82,5 @@ private:
 
     bool m_isGrowing = false;   ///< will be a line higher in a moment
     bool m_showsNewest = false; ///< the newest event is to be scrolled into sight
-    QRect m_newest;             ///< the line drawn last, y downwards
+    QRect m_newest;             ///< the line drawn last, y downwards; null for none
 };

@@ -13,6 +13,9 @@ namespace {
 constexpr int kLabelSize = 11;
 constexpr std::uint32_t kMostLoopDigits = 3;
 
+/// A line of events may reach up to here from the right edge.
+constexpr int kEventsBarWidth = 5;
+
 constexpr QColor kFieldEdge(138, 108, 56);
 constexpr QColor kFieldRim(7, 5, 4);
 constexpr QColor kFieldLit(255, 223, 128);
@@ -64,7 +67,7 @@ Control *MacroView::addField(Field field, Control *control)
 void MacroView::buildFields()
 {
     pTextfieldMacroName = addField(Field::Name, new TextField(this));
-    MacroscrollView = addField(Field::Events, new SkinScrollArea(this));
+    MacroscrollView = addField(Field::Events, new SkinScrollArea(this, kEventsBarWidth));
     pStartDisplayView = addField(Field::StartKey, new MacroDisplay(this));
     pCopyTextfield = addField(Field::Text, new TextArea(this));
     pSendDisplayView = addField(Field::SendKey, new MacroDisplay(this));

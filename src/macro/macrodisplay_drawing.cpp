@@ -15,9 +15,10 @@ void MacroDisplay::drawRect(Canvas &canvas)
     const QString text = GetMacroOutputString();
     drawCells(canvas, text);
     // By one line for each drawing, and not before it is over.
-    if (needsLine(text) && !m_isGrowing) {
+    if (needsLine(text)) {
+        if (!m_isGrowing)
+            performDeferred(this, &MacroDisplay::growByOneLine);
         m_isGrowing = true;
-        performDeferred(this, &MacroDisplay::growByOneLine);
     } else if (m_showsNewest) {
         performDeferred(this, &MacroDisplay::showNewest);
     }
@@ -26,8 +27,9 @@ void MacroDisplay::drawRect(Canvas &canvas)
 void MacroDisplay::drawCells(Canvas &canvas, const QString &text)
 {
     const std::vector<TextCell> cells = layOutCells(text, height(), m_charHeight);
-    const UpRect last = cells.empty() ? UpRect{} : cells.back().place;
-    m_newest = UpHost(height()).down({0, last.y, width(), m_charHeight});
+    m_newest = {};
+    if (!cells.empty())
+        m_newest = UpHost(height()).down({0, cells.back().place.y, width(), m_charHeight});
     for (const TextCell &cell : cells) {
         m_charWidth = cell.place.width;
         // Most of a long list is scrolled out of sight.
@@ -60,7 +62,7 @@ void MacroDisplay::growByOneLine()
 
 void MacroDisplay::showNewest()
 {
-    if (!m_showsNewest)
+    if (!m_showsNewest || m_newest.isNull())
         return;
     m_showsNewest = false;
     scrollIntoView(*this, m_newest);

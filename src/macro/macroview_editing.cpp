@@ -5,6 +5,9 @@
 #include "platform/numbers.h"
 #include "platform/systemlog.h"
 
+#include <QtGui/QGuiApplication>
+#include <QtGui/QInputMethod>
+
 #include <algorithm>
 
 using namespace macrolayout;
@@ -222,6 +225,8 @@ bool MacroView::hasLoopError() const
 
 void MacroView::takeTexts()
 {
+    // What is still being composed counts: a click on a button leaves the keyboard in the field.
+    QGuiApplication::inputMethod()->commit();
     const QString name = pTextfieldMacroName->plainText();
     store(m_MacroInfo.MACRO_NAME, name.isEmpty() ? QString::fromLatin1(kDefaultName) : name);
     store(m_MacroInfo.COPY_PASTER, pCopyTextfield->plainText());

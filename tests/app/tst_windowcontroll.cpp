@@ -27,6 +27,7 @@ private Q_SLOTS:
     void theApplyStatusIsPassedOn();
     void theProfileColoursAreDrawnAgain();
     void aChosenFunctionIsPassedOn();
+    void changedMacrosArePassedOn();
     void aResizedRightBarLaysOutItsView();
     void theOtherBarsSizesLayOutNothing();
     void theBarsFollowTheMainWindow();
@@ -258,6 +259,18 @@ void tst_windowcontroll::aChosenFunctionIsPassedOn()
     QVERIFY(stage.controll.IsMinRightBar());
 }
 
+void tst_windowcontroll::changedMacrosArePassedOn()
+{
+    ControllerStage stage;
+    for (const bool open : {false, true}) {
+        if (open)
+            stage.toggleRightBar();
+        stage.asked();
+        stage.controll.macrosChanged();
+        QCOMPARE(stage.asked(), QStringList(QStringLiteral("main macrosChanged")));
+    }
+}
+
 void tst_windowcontroll::aResizedRightBarLaysOutItsView()
 {
     ControllerStage stage;
@@ -338,6 +351,7 @@ void tst_windowcontroll::viewsThatWereNeverSetAreLeftOut()
     stage.controll.setMainViewApplyStatus(true);
     stage.controll.refreshProfileColorBar();
     stage.controll.refreshMacroList();
+    stage.controll.macrosChanged();
     stage.controll.windowDidResize();
     stage.controll.changeSelFunction(1);
     stage.controll.findFunctionItem(16);

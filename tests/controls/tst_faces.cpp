@@ -13,6 +13,8 @@ private Q_SLOTS:
     void theFacesAreCutAtTheButtonsPlace();
     void withoutAPictureThereIsNoFace();
     void aBarIsUncoveredFromTheHoverPicture();
+    void aPictureButtonHasTwoPicturesOfItsOwn();
+    void aCheckBoxStaysOn();
 };
 
 namespace {
@@ -23,6 +25,14 @@ constexpr ButtonRow kRow{"ButtonOK", {20, 30, 40, 20}, 4097, "OK", "Confirm"};
 SkinImage windowWith(const QColor &colour)
 {
     return markedPicture({100, 80}, Qt::darkGray, UpHost(80).down(kRow.frame), colour);
+}
+
+/// With nothing but its face to see.
+void showQuietly(HoverButton &button, const QWidget &window)
+{
+    button.setCaptionText({});
+    button.show();
+    pointer::move(window, {1, 1});
 }
 
 struct FacesStage
@@ -37,9 +47,7 @@ struct FacesStage
     HoverButton &make(const Faces &faces)
     {
         HoverButton *const button = makeButton(&window, kRow, faces);
-        button->setCaptionText({});
-        button->show();
-        pointer::move(window, {1, 1});
+        showQuietly(*button, window);
         return *button;
     }
 
@@ -52,18 +60,34 @@ bool isAll(HoverButton &button, const QColor &colour)
            extentOfOther(shown(button), colour).isEmpty();
 }
 
+void hasTheRowsFields(const HoverButton &button, const QWidget &parent)
+{
+    QCOMPARE(button.parentWidget(), &parent);
+    QCOMPARE(button.objectName(), QStringLiteral("ButtonOK"));
+    QVERIFY(button.frame() == kRow.frame);
+    QCOMPARE(button.tag(), 4097);
+    QCOMPARE(button.captionText(), QStringLiteral("OK"));
+    QCOMPARE(button.accessibleName(), QStringLiteral("Confirm"));
+}
+
+/// A picture of the skin as the row's button shows it: from its lower left corner.
+QImage faceOf(const char *name)
+{
+    View view;
+    view.resize(kRow.frame.width, kRow.frame.height);
+    QImage face = shown(view);
+    const QPixmap picture = SkinImage::named(name).pixmap();
+    QPainter(&face).drawPixmap(0, face.height() - picture.height(), picture);
+    return face;
+}
+
 } // namespace
 
 void tst_faces::aButtonIsWhatItsRowSays()
 {
     FacesStage stage;
     const HoverButton *const button = makeButton(&stage.window, kRow, {});
-    QCOMPARE(button->parentWidget(), &stage.window);
-    QCOMPARE(button->objectName(), QStringLiteral("ButtonOK"));
-    QVERIFY(button->frame() == kRow.frame);
-    QCOMPARE(button->tag(), 4097);
-    QCOMPARE(button->captionText(), QStringLiteral("OK"));
-    QCOMPARE(button->accessibleName(), QStringLiteral("Confirm"));
+    hasTheRowsFields(*button, stage.window);
 }
 
 void tst_faces::theFacesAreCutAtTheButtonsPlace()
@@ -103,6 +127,38 @@ void tst_faces::aBarIsUncoveredFromTheHoverPicture()
     bar.setPos(50);
     QCOMPARE(extentOf(shown(bar), Qt::blue), QRect(0, 0, 20, 20));
     QCOMPARE(extentOf(shown(bar), Qt::green), QRect(20, 0, 20, 20));
+}
+
+void tst_faces::aPictureButtonHasTwoPicturesOfItsOwn()
+{
+    FacesStage stage;
+    HoverButton &button = *makePictureButton(&stage.window, kRow, "uncheck", "check");
+    hasTheRowsFields(button, stage.window);
+    QVERIFY(!button.isCheckable());
+    showQuietly(button, stage.window);
+    QCOMPARE(shown(button), faceOf("uncheck"));
+    pointer::move(button, button.rect().center());
+    QCOMPARE(shown(button), faceOf("uncheck"));
+    pointer::press(button, button.rect().center());
+    QCOMPARE(shown(button), faceOf("check"));
+    pointer::release(button, button.rect().center());
+    QCOMPARE(shown(button), faceOf("uncheck"));
+    button.setDisable(true);
+    QCOMPARE(shown(button), faceOf("uncheck"));
+}
+
+void tst_faces::aCheckBoxStaysOn()
+{
+    FacesStage stage;
+    HoverButton &box = *makeCheckBox(&stage.window, kRow, "radio_n", "radio_d");
+    hasTheRowsFields(box, stage.window);
+    QVERIFY(box.isCheckable());
+    showQuietly(box, stage.window);
+    for (const bool isOn : {false, true, false}) {
+        QCOMPARE(box.isChecked(), isOn);
+        QCOMPARE(shown(box), faceOf(isOn ? "radio_d" : "radio_n"));
+        pointer::click(box);
+    }
 }
 
 KYR_GUI_TEST(tst_faces)

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void keysMoveTheSelection_data();
     void keysMoveTheSelection();
     void anEmptyListHasNothingToSelect();
+    void aPageIsTheRowsInSight();
+    void f2SendsTheDoubleClick();
     void returnSendsTheChangeAndEscapeTheKeyLoss();
     void losingTheKeyboardIsLoggedAndSent();
     void aStoppedWatchSendsNothing();
@@ -204,6 +206,10 @@ void tst_pnglistbox::keysMoveTheSelection_data()
     QTest::newRow("up at the start") << 0 << Qt::Key_Up << 0;
     QTest::newRow("down from nothing") << -1 << Qt::Key_Down << 0;
     QTest::newRow("up from nothing") << -1 << Qt::Key_Up << 0;
+    QTest::newRow("home") << 2 << Qt::Key_Home << 0;
+    QTest::newRow("end") << 0 << Qt::Key_End << 2;
+    QTest::newRow("a page down, beyond the end") << 0 << Qt::Key_PageDown << 2;
+    QTest::newRow("a page up, beyond the start") << 2 << Qt::Key_PageUp << 0;
     QTest::newRow("any other key") << 1 << Qt::Key_A << 1;
 }
 
@@ -227,6 +233,31 @@ void tst_pnglistbox::anEmptyListHasNothingToSelect()
     stage.key(Qt::Key_Down);
     stage.clickAt(10);
     QCOMPARE(stage.list.getcursel(), -1);
+}
+
+void tst_pnglistbox::aPageIsTheRowsInSight()
+{
+    ListStage stage;
+    for (int row = 3; row < 20; ++row)
+        stage.list.AddString(QString::number(row));
+    stage.list.setFocus();
+    stage.list.setcursel(1);
+    stage.key(Qt::Key_PageDown);
+    QCOMPARE(stage.list.getcursel(), 8);
+    stage.key(Qt::Key_PageDown);
+    stage.key(Qt::Key_PageUp);
+    QCOMPARE(stage.list.getcursel(), 8);
+}
+
+void tst_pnglistbox::f2SendsTheDoubleClick()
+{
+    ListStage stage;
+    Receiver<pngListBox> doubleClicks;
+    stage.list.setDBClickAction({&doubleClicks, &Receiver<pngListBox>::receive});
+    stage.list.setFocus();
+    stage.key(Qt::Key_F2);
+    QCOMPARE(doubleClicks.senders.size(), 1);
+    QCOMPARE(stage.changes.senders.size(), 0);
 }
 
 void tst_pnglistbox::returnSendsTheChangeAndEscapeTheKeyLoss()

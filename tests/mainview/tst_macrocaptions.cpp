@@ -16,6 +16,10 @@ private Q_SLOTS:
     void anAssignedMacroIsNamed();
     void aNameIsShownAsItStands_data();
     void aNameIsShownAsItStands();
+    void changedMacrosAreNamedAnew_data();
+    void changedMacrosAreNamedAnew();
+    void changedMacrosAreThoseOfTheCurrentProfile();
+    void changedMacrosEnableApplyAndAreMeasured();
 };
 
 namespace {
@@ -141,6 +145,65 @@ void tst_macrocaptions::aNameIsShownAsItStands()
     SetText(CurrentProfile().MACRO[1].MACRO_NAME, name.toStdString());
     assignToSelected(stage, 9, 257);
     QCOMPARE(stage.caption(9), name);
+}
+
+void tst_macrocaptions::changedMacrosAreNamedAnew_data()
+{
+    QTest::addColumn<FunctionCode>("code");
+    QTest::addColumn<QString>("after");
+    const QString before = QStringLiteral("before");
+    QTest::newRow("first slot") << FunctionCode{256} << QStringLiteral("Heal");
+    QTest::newRow("last slot") << FunctionCode{305} << QStringLiteral("Third fifty");
+    QTest::newRow("without a name") << FunctionCode{257} << QString();
+    QTest::newRow("no such slot") << FunctionCode{306} << QString();
+    QTest::newRow("the last code of macros") << FunctionCode{4095} << QString();
+    QTest::newRow("mouse function") << FunctionCode{4} << before;
+    QTest::newRow("CPI") << FunctionCode{16} << before;
+    QTest::newRow("profile") << FunctionCode{43} << before;
+    QTest::newRow("below the macros") << FunctionCode{255} << before;
+    QTest::newRow("game command") << FunctionCode{4097} << before;
+    QTest::newRow("top bit") << FunctionCode{0x80000100} << before;
+}
+
+/// Of functions that are no macros the captions stay as they are.
+void tst_macrocaptions::changedMacrosAreNamedAnew()
+{
+    QFETCH(FunctionCode, code);
+    const NamedStage stage;
+    for (int number = 1; number <= 14; ++number) {
+        CurrentProfile().BUTTON[number - 1] = code;
+        stage.mouseButton(number).setCaptionText(QStringLiteral("before"));
+    }
+    SetText(CurrentProfile().MACRO[0].MACRO_NAME, "Heal");
+    stage.view().macrosChanged();
+    for (int number = 1; number <= 14; ++number) {
+        QTEST(stage.caption(number), "after");
+        QCOMPARE(CurrentProfile().BUTTON[number - 1], code);
+    }
+}
+
+void tst_macrocaptions::changedMacrosAreThoseOfTheCurrentProfile()
+{
+    NamedStage stage;
+    stage.reportProfile(10);
+    stage.mouseButton(5).setCaptionText({});
+    stage.view().macrosChanged();
+    QCOMPARE(stage.caption(5), QStringLiteral("Tenth one"));
+}
+
+void tst_macrocaptions::changedMacrosEnableApplyAndAreMeasured()
+{
+    const NamedStage stage;
+    QVERIFY(!stage.applyIsEnabled());
+    const std::uint32_t before = stage.view().memoryUsage();
+    MacroInfo &macro = CurrentProfile().MACRO[0];
+    macro.MODE = kModeNoDelay;
+    std::ranges::fill(macro.KEYMAP, KeymapEvent{4, 1, 0}); // 1002 bytes
+    stage.view().macrosChanged();
+    QVERIFY(stage.applyIsEnabled());
+    QCOMPARE(stage.view().memoryUsage(), before + 8);
+    QCOMPARE(stage.view().findChild<pngProgressBar *>(QStringLiteral("MSMemoryUsageBar"))->getPos(),
+             static_cast<int>(before + 8));
 }
 
 KYR_GUI_TEST(tst_macrocaptions)

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void theListIsReadAgainAsThePanelExpands();
     void theOpenListFollowsAChangeOfTheProfile();
     void aProfileWithFewerMacrosShowsThemAndSelectsNone();
+    void aCollapsedListFollowsAChangeOfTheProfile_data();
+    void aCollapsedListFollowsAChangeOfTheProfile();
     void aProfileWithAsManyMacrosKeepsTheSelectedRow();
     void theListGrowsBeyondElevenRows_data();
     void theListGrowsBeyondElevenRows();
@@ -106,6 +108,32 @@ void tst_macropanel::aProfileWithFewerMacrosShowsThemAndSelectsNone()
     QCOMPARE(stage.macros().getcursel(), -1);
     QVERIFY(stage.showsWhole(0));
     QCOMPARE(stage.macros().height(), 400);
+}
+
+void tst_macropanel::aCollapsedListFollowsAChangeOfTheProfile_data()
+{
+    QTest::addColumn<bool>("shut");
+    QTest::newRow("collapsed") << false;
+    QTest::newRow("on a shut bar") << true;
+}
+
+/// Its "Delete" shows, and must not delete a macro that was never selected.
+void tst_macropanel::aCollapsedListFollowsAChangeOfTheProfile()
+{
+    QFETCH(bool, shut);
+    MacroStage stage(3);
+    SetText(m_Config.PROFILE[4].MACRO[0].MACRO_NAME, "the only one");
+    stage.openAt(PanelId::Macro);
+    PanelsStage::clickRow(stage.macros(), 2, kMacroRowHeight);
+    shut ? stage.toggleRight() : stage.clickHeader(PanelId::Macro);
+    stage.program.reportProfile(5);
+    if (shut)
+        stage.toggleRight();
+    QVERIFY(stage.expanded().empty());
+    QCOMPARE(stage.rows(), QStringList(QStringLiteral("   * the only one")));
+    QCOMPARE(stage.macros().getcursel(), -1);
+    stage.clickHeader(PanelId::Macro);
+    QCOMPARE(stage.macros().getcursel(), -1);
 }
 
 void tst_macropanel::aProfileWithAsManyMacrosKeepsTheSelectedRow()

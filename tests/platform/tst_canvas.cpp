@@ -1,6 +1,4 @@
-#include "platform/canvas.h"
-#include "platform/view.h"
-#include "support/pictures.h"
+#include "drawnview.h"
 #include "support/suite.h"
 
 /// Drawing in upward coordinates, at the scales of usual and of fine screens.
@@ -38,37 +36,6 @@ private:
 };
 
 namespace {
-
-using Draw = std::function<void(Canvas &)>;
-
-class DrawnView : public View
-{
-public:
-    explicit DrawnView(Draw draw) : View(nullptr), m_draw(std::move(draw)) { resize(100, 80); }
-
-protected:
-    void drawRect(Canvas &canvas) override { m_draw(canvas); }
-
-private:
-    Draw m_draw;
-};
-
-/// What is drawn on a black view of 100 x 80 points, in pixels.
-QImage drawn(int scale, const Draw &draw)
-{
-    DrawnView view(draw);
-    QImage image(view.size() * scale, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(scale);
-    image.fill(Qt::black);
-    view.render(&image, {}, {}, QWidget::RenderFlags());
-    image.setDevicePixelRatio(1);
-    return image;
-}
-
-QRect scaled(QRect rect, int scale)
-{
-    return {rect.topLeft() * scale, rect.size() * scale};
-}
 
 QRect whereText(int scale, const QString &text, UpRect rect, TextAlign align)
 {

@@ -4,10 +4,6 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
-Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject *o, ulong timestamp, int k,
-                                               Qt::KeyboardModifiers mods, const QString &text,
-                                               bool autorep, ushort count);
-
 /// Keys of the hardware, as the display delivers them to the window that has the keyboard: a key is
 /// its number, whatever it types.
 namespace keystroke {

@@ -62,6 +62,8 @@ inline void turnWheel(const QWidget &control, int angle)
     const QPoint at = control.rect().center();
     QWheelEvent event(inWindow(control, at), control.mapToGlobal(at), {}, {0, angle}, Qt::NoButton,
                       {}, Qt::NoScrollPhase, false);
+    // Only what the desktop sends goes on to the area around a control that has no use for it.
+    QSpontaneKeyEvent::setSpontaneous(&event);
     QApplication::sendEvent(windowOf(control), &event);
 }
 
