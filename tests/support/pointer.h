@@ -64,7 +64,7 @@ inline void turnWheel(const QWidget &control, int angle)
                       {}, Qt::NoScrollPhase, false);
     // Only what the desktop sends goes on to the area around a control that has no use for it.
     QSpontaneKeyEvent::setSpontaneous(&event);
-    QApplication::sendEvent(windowOf(control), &event);
+    qApp->notify(windowOf(control), &event);
 }
 
 } // namespace pointer
