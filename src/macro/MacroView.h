@@ -92,12 +92,6 @@ private:
     void clearEvents();
     void clearKeysAndText();
     void setDefaultKeys();
-    void takeLoopCount();
-    void takeTexts();
-    void takeEvents();
-    bool hasLoopError() const;
-    MacroInfo *slotToSave() const;
-    void confirm();
     void cancel() { answer(macrolayout::kTagCancel); }
     void flipStartKey();
     void flipSendKey();
@@ -105,6 +99,14 @@ private:
     void showLoop();
     template <std::uint32_t mode>
     void chooseMode();
+
+    // Saving (macroview_saving.cpp)
+    void confirm();
+    void takeLoopCount();
+    void takeTexts();
+    void takeEvents();
+    bool hasLoopError() const;
+    MacroInfo *slotToSave() const;
 
     MacroInfo m_MacroInfo{};
     std::int32_t m_MacroID = -1;

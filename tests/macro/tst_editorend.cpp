@@ -38,9 +38,7 @@ void answerColumn()
 void tst_editorend::anythingButOKCancels_data()
 {
     answerColumn();
-    const auto row = [](const char *name, Answer answer) {
-        QTest::newRow(name) << std::move(answer);
-    };
+    const auto row = [](const char *name, const Answer &answer) { QTest::newRow(name) << answer; };
     row("CANCEL", [](const EditorStage &, const OpenDialog &it) { it.click("ButtonCancel"); });
     row("the close button",
         [](const EditorStage &, const OpenDialog &it) { it.click("ButtonClose"); });

@@ -27,7 +27,7 @@ namespace {
 
 struct PlaceRow
 {
-    const char *name;
+    const char *name = "";
     UpRect copyPaste;
     UpRect events;
 };

@@ -81,3 +81,9 @@ inline const HardwareKey kPause{119, Qt::Key_Pause};
 inline const HardwareKey kLeftControl{29, Qt::Key_Control};
 
 } // namespace keystroke
+
+// X11's bits for modifiers before an event.
+inline constexpr quint32 kShiftBefore = 1;
+inline constexpr quint32 kLockBefore = 2;
+
+inline const keystroke::Circumstances kShifted{.modifiersBefore = kShiftBefore, .modifiers = {}};
