@@ -1,6 +1,5 @@
 #include "macro/MacroView.h"
 
-#include "controls/skinscrollarea.h"
 #include "model/fixedtext.h"
 #include "platform/systemlog.h"
 
