@@ -62,6 +62,7 @@ public:
         const auto *const bar = qstyleoption_cast<const QStyleOptionSlider *>(option);
         if (control != CC_ScrollBar || !bar)
             return QProxyStyle::drawComplexControl(control, option, painter, widget);
+        painter->save();
         painter->fillRect(bar->rect, kGroove);
         const bool isLit = bar->activeSubControls & SC_ScrollBarSlider;
         painter->setRenderHint(QPainter::Antialiasing);
@@ -69,6 +70,7 @@ public:
         painter->setBrush(isLit ? kLit : kBrass);
         painter->drawRoundedRect(QRectF(partOf(*bar, SC_ScrollBarSlider)).adjusted(1, 1, -1, -1),
                                  kCorner, kCorner);
+        painter->restore();
     }
 
 private:

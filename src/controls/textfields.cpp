@@ -48,7 +48,6 @@ TextField::TextField(QWidget *parent) : Framed(parent)
     QLineEdit::setFrame(false);
     setLook(*this);
     connect(this, &QLineEdit::textEdited, this, &TextField::refuseUnacceptable);
-    connect(this, &QLineEdit::textChanged, this, [this] { m_before = text(); });
 }
 
 void TextField::load(const QString &text)
@@ -57,13 +56,12 @@ void TextField::load(const QString &text)
     setText(text);
 }
 
-/// The toolkit lets everything be typed into a field whose text is not acceptable anyway.
+/// The toolkit lets everything be typed into a field whose text is not acceptable anyway, as one
+/// that was loaded may be.
 void TextField::refuseUnacceptable()
 {
-    if (hasAcceptableInput())
-        return;
-    setText(m_before);
-    setModified(true);
+    if (!hasAcceptableInput())
+        setText(m_loaded);
 }
 
 void TextField::setEditable(bool editable)

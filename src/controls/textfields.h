@@ -28,7 +28,6 @@ private:
     void refuseUnacceptable();
 
     QString m_loaded;
-    QString m_before; ///< what stood there before the last edit
 };
 
 /// A field for several lines; the tab key leaves it. A paste brings at most 32767 characters, which

@@ -35,6 +35,9 @@ void ModalDialog::setKeyControls(HoverButton *close, QWidget *first)
 
 void ModalDialog::runModal()
 {
+    if (m_isRunning)
+        return;
+    m_isRunning = true;
     const QPointer<ModalDialog> alive(this);
     m_first->setFocus();
     m_modalRun.run(*window());

@@ -13,7 +13,8 @@ public:
     /// Runs the dialog's window until it is answered. Afterwards, in this order: does what the
     /// answer asks for, closes the window, has it deleted later. A window that is closed by the
     /// desktop, or still open when the program ends, is answered like by its close button. When
-    /// the window is deleted meanwhile nothing more is done.
+    /// the window is deleted meanwhile nothing more is done. While it runs already, it does
+    /// nothing.
     void runModal();
 
 protected:
@@ -25,6 +26,8 @@ protected:
 
     /// Answers the dialog with a button's tag. The first answer holds.
     void answer(int tag);
+    /// Whether it was answered and is about to close: what is clicked now came too late.
+    bool isAnswered() const { return m_isRunning && m_answer; }
     /// Called after the modal run with the tag of the button that answered it.
     virtual void answered(int /*tag*/) {}
 
@@ -40,5 +43,6 @@ private:
     HoverButton *m_close = nullptr;
     QWidget *m_first = nullptr;
     ModalRun m_modalRun;
+    bool m_isRunning = false;
     std::optional<int> m_answer; ///< the tag of the button that was pressed first
 };

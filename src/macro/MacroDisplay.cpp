@@ -49,9 +49,9 @@ void MacroDisplay::setKeymapInfo(std::span<const KeymapEvent> stored)
     auto &[count, events] = m_MacroInfo;
     const auto loaded = stored.first(std::min<std::size_t>(stored.size(), m_MaxKeymapEvent));
     const auto end = std::ranges::find(loaded, 0U, &KeymapEvent::kind);
-    events.fill({});
-    std::copy(loaded.begin(), end, events.begin());
     count = static_cast<std::uint32_t>(end - loaded.begin());
+    const auto behind = std::copy(loaded.begin(), end, events.begin());
+    std::fill(behind, events.end(), KeymapEvent{});
     showBeginning();
 }
 

@@ -24,8 +24,8 @@ public:
     /// Shows the defaults of a new macro.
     explicit MacroView(QWidget *parent);
 
-    /// The macro of the current profile that is edited, 0..49, or -1 for a new one. Any other
-    /// number shows the defaults, and OK saves nothing.
+    /// The macro of the current profile that is edited, 0..49, or -1 for a new one. With any
+    /// other number it goes on showing what it shows, and OK saves nothing.
     void setcurrentMacroID(std::int32_t macro);
     /// Who is told, after the modal run, how it ended: its MacroOKAction() or MacroCancelAction()
     /// is called with the editor.
@@ -84,6 +84,7 @@ private:
     // Editing (macroview_editing.cpp)
     struct ModeRow;
     struct ActionRow;
+    static std::span<const ModeRow> modeRows();
     static const ModeRow *modeRow(std::uint32_t mode);
     void showEvents(const ModeRow &mode);
     void showKeysAndText();
@@ -95,6 +96,7 @@ private:
     void cancel() { answer(macrolayout::kTagCancel); }
     void flipStartKey();
     void flipSendKey();
+    void flipKey(std::uint32_t &flag, Choice box, MacroDisplay &view);
     void flipLoop();
     void showLoop();
     template <std::uint32_t mode>

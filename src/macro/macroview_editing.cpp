@@ -29,8 +29,8 @@ struct MacroView::ModeRow
     EventTextStyle style; ///< of the event list
 };
 
-/// In the order of MacroMode; null for a number that is no mode.
-const MacroView::ModeRow *MacroView::modeRow(std::uint32_t mode)
+/// In the order of MacroMode.
+std::span<const MacroView::ModeRow> MacroView::modeRows()
 {
     static constexpr ModeRow rows[] = {
         {&MacroView::setCopyPastemode, Choice::ButtonCopy, {false, true}},
@@ -38,7 +38,13 @@ const MacroView::ModeRow *MacroView::modeRow(std::uint32_t mode)
         {&MacroView::setRecordmode, Choice::ButtonRecordDelay, {true, true}},
         {&MacroView::setNodelaymode, Choice::ButtonNoDelay, {false, true}},
     };
-    return mode < std::size(rows) ? &rows[mode] : nullptr;
+    return rows;
+}
+
+/// Null for a number that is no mode.
+const MacroView::ModeRow *MacroView::modeRow(std::uint32_t mode)
+{
+    return mode < modeRows().size() ? &modeRows()[mode] : nullptr;
 }
 
 void MacroView::setcurrentMacroID(std::int32_t macro)
@@ -56,8 +62,8 @@ void MacroView::setMacroDelaymode(std::uint32_t mode)
     const ModeRow *const row = modeRow(mode);
     if (row)
         (this->*row->setLayout)();
-    for (std::uint32_t each = kModeCopyPaste; const ModeRow *other = modeRow(each); ++each)
-        choice(other->radio).setChecked(other == row);
+    for (const ModeRow &other : modeRows())
+        choice(other.radio).setChecked(&other == row);
 }
 
 void MacroView::initSetting()
@@ -76,7 +82,6 @@ void MacroView::showEvents(const ModeRow &mode)
     pMacroDisplayView->setKeymapInfo(m_MacroInfo.KEYMAP);
     pMacroDisplayView->setDisplayDelay(mode.style.showsDelays);
     pMacroDisplayView->setDisplayUpAndDown(mode.style.showsUpAndDown);
-    pMacroDisplayView->update();
     showLoop();
     const auto count = static_cast<std::int32_t>(m_MacroInfo.MACRO_LOOP);
     pLoopTextfield->load(QString::number(count == 0 ? 1 : count));
@@ -161,7 +166,8 @@ void MacroView::buttonAction(HoverButton *sender)
         {kTagLoop, "IDC_MACRO_BUTTON_LOOP  was clicked", &MacroView::flipLoop},
     };
     const auto *const row = std::ranges::find(rows, sender->tag(), &ActionRow::tag);
-    if (row == std::end(rows))
+    // Two quick clicks on OK do not save twice, and none after CANCEL saves.
+    if (row == std::end(rows) || isAnswered())
         return;
     if (row->logLine)
         systemLog("%s", row->logLine);
@@ -177,16 +183,19 @@ void MacroView::chooseMode()
 
 void MacroView::flipStartKey()
 {
-    m_MacroInfo.bSTARTKEY = m_MacroInfo.bSTARTKEY ? 0 : 1;
-    choice(Choice::ButtonStartKey).setChecked(m_MacroInfo.bSTARTKEY != 0);
-    pStartDisplayView->enablewindow(m_MacroInfo.bSTARTKEY != 0);
+    flipKey(m_MacroInfo.bSTARTKEY, Choice::ButtonStartKey, *pStartDisplayView);
 }
 
 void MacroView::flipSendKey()
 {
-    m_MacroInfo.bSENDKEY = m_MacroInfo.bSENDKEY ? 0 : 1;
-    choice(Choice::ButtonSendKey).setChecked(m_MacroInfo.bSENDKEY != 0);
-    pSendDisplayView->enablewindow(m_MacroInfo.bSENDKEY != 0);
+    flipKey(m_MacroInfo.bSENDKEY, Choice::ButtonSendKey, *pSendDisplayView);
+}
+
+void MacroView::flipKey(std::uint32_t &flag, Choice box, MacroDisplay &view)
+{
+    flag = flag ? 0 : 1;
+    choice(box).setChecked(flag == 1);
+    view.enablewindow(flag == 1);
 }
 
 void MacroView::flipLoop()

@@ -4,9 +4,9 @@
 #include "controls/scrollbars.h"
 #include "controls/skinscrollarea.h"
 #include "dialogs/dialogwindow.h"
-#include "functions/functioncodes.h"
 #include "macro/MacroDelWarn.h"
 #include "macro/MacroView.h"
+#include "model/fixedtext.h"
 #include "platform/systemlog.h"
 
 #include <QtWidgets/QScrollBar>
@@ -43,6 +43,15 @@ HoverButton *makeHeaderButton(QWidget *parent, const ButtonRow &row,
     return button;
 }
 
+/// The codes on the buttons stay as they are, on purpose: one that played this macro plays the
+/// next.
+void deleteMacro(unsigned slot)
+{
+    const std::span<MacroInfo> macros(CurrentProfile().MACRO);
+    std::ranges::copy(macros.subspan(slot + 1), macros.begin() + slot);
+    macros.back() = {};
+}
+
 UpRect raised(UpRect rect, int by)
 {
     return {rect.x, rect.y + by, rect.width, rect.height};
@@ -70,8 +79,7 @@ void rightbarMacro::refreshMacroList()
 {
     list().clearAll();
     for (unsigned slot = 0; slot < kMacroCount; ++slot) {
-        const QString name =
-            functions::caption(functions::kFirstMacroCode + slot, CurrentProfile());
+        const QString name = GetString(CurrentProfile().MACRO[slot].MACRO_NAME);
         if (name.isEmpty())
             break;
         list().AddString(QStringLiteral("   * ") + name);
@@ -99,7 +107,7 @@ void rightbarMacro::keepToRows()
 void rightbarMacro::setMacroSel(std::int32_t row)
 {
     list().setcursel(row);
-    if (row < list().getCount())
+    if (row >= 0 && row < list().getCount())
         scrollIntoView(list(), {0, row * kLook.rowHeight, 1, kLook.rowHeight});
 }
 
@@ -188,19 +196,12 @@ void rightbarMacro::DisplayWarnDlg()
 void rightbarMacro::MacroDelAction(QWidget * /*sender*/)
 {
     const int row = list().getcursel();
-    if (row >= 0 && row < static_cast<int>(kMacroCount))
+    const bool isSlot = row >= 0 && row < static_cast<int>(kMacroCount);
+    if (isSlot)
         deleteMacro(static_cast<unsigned>(row));
     refreshMacroList();
     update();
     systemLog("deletebuttonAction");
-}
-
-/// The codes on the buttons stay as they are, on purpose: one that played this macro plays the
-/// next.
-void rightbarMacro::deleteMacro(unsigned slot)
-{
-    const std::span<MacroInfo> macros(CurrentProfile().MACRO);
-    std::ranges::copy(macros.subspan(slot + 1), macros.begin() + slot);
-    macros.back() = {};
-    m_macrosChangeAction.send();
+    if (isSlot)
+        m_macrosChangeAction.send();
 }

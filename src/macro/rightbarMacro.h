@@ -22,11 +22,12 @@ public:
     }
     /// Sent after the profile's macros have changed.
     void setMacrosChangeAction(const Action<> &action) { m_macrosChangeAction = action; }
-    /// Selects a row without telling anybody.
+    /// Selects a row without telling anybody, and scrolls it into sight where there is one.
     void setMacroSel(std::int32_t row);
     /// Hides or shows the buttons "New" and "Delete".
     void setHiddenButton(bool hidden);
-    /// Lists the macros of the current profile, up to the first one without a name.
+    /// Lists the macros of the current profile, up to the first one without a name. A selection
+    /// beyond them is none afterwards.
     void refreshMacroList();
 
     /// "New": opens the editor for a new macro.
@@ -54,7 +55,6 @@ private:
     void keepToRows();
     QWidget &mainWindow() const;
     void releaseEditor();
-    void deleteMacro(unsigned slot);
 
     Action<> m_macrosChangeAction;
     HoverButton *btnNew;

@@ -13,8 +13,7 @@ struct ModifierKey
 {
     std::uint16_t keyCode;
     std::uint32_t mask;
-    std::uint32_t
-        x11; ///< X11's bit in the modifiers of an event, as they were before it; 0 for none
+    std::uint32_t x11; ///< X11's bit in an event's modifiers, which are those before it
 };
 
 constexpr ModifierKey kModifierKeys[] = {
@@ -59,12 +58,12 @@ std::uint32_t modifierMask(std::uint16_t keyCode)
 std::optional<KeyStroke> KeyStrokes::read(const QKeyEvent &event)
 {
     const bool isPress = event.type() == QEvent::KeyPress;
-    // The display sends the repetition of a held key as pairs of a release and a press.
+    // Where the display sends the repetition of a held key as pairs of a release and a press.
     if (!isPress && event.isAutoRepeat())
         return {};
     const auto keyCode = virtualKeyCode(event);
     if (!keyCode) {
-        if (!event.isAutoRepeat())
+        if (!isPress) // once, however long it was held
             systemLog("no virtual key code for scan code %u", event.nativeScanCode());
         return {};
     }

@@ -30,7 +30,8 @@ std::uint32_t modifierMask(std::uint16_t keyCode);
 
 /// Turns the toolkit's key events into key strokes, one after the other.
 ///
-/// A key that is held down is pressed again and again and released once. Caps Lock is told when it
+/// A key that is held down is pressed again and again and released once, whether the display sends
+/// releases between the presses or not. Caps Lock is told when it
 /// goes down only: macOS reports it once for each press.
 class KeyStrokes
 {

@@ -4,8 +4,8 @@
 #include "platform/view.h"
 
 /// A view that is told of keys and not of what they type. While it has the keyboard every key comes
-/// to it, the tab key, those that close a dialog and the desktop's own shortcuts included; only the
-/// mouse takes the keyboard away again.
+/// to it, the tab key, those that close a dialog and the desktop's own shortcuts included; no key
+/// takes the keyboard away again.
 class KeyStrokeView : public View
 {
 protected:

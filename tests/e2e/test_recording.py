@@ -60,7 +60,7 @@ class Keys(Recording):
         self.assert_recorded(taps(A, B))
         for key in UNKNOWN_KEYS:
             line = f"no virtual key code for scan code {key}"
-            self.assertEqual(self.utility.lines().count(line), 2, "pressed and released")
+            self.assertEqual(self.utility.lines().count(line), 1)
 
     def test_caps_lock_is_a_whole_tap_each_time(self):
         self.editor.record(["Caps_Lock"] * 3)

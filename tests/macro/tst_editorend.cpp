@@ -14,6 +14,8 @@ private Q_SLOTS:
     void theMacroIsSavedBeforeTheTargetIsTold();
     void theTargetIsToldAfterTheRunAndBeforeTheWindowCloses();
     void onlyTheFirstAnswerCounts();
+    void aSecondOKSavesNothingMore();
+    void anOKAfterCancelSavesNothing();
     void theNameHasTheKeyboardAtFirst();
     void theWindowBehindTakesNoInput();
     void aTargetThatIsGoneIsNotTold();
@@ -147,6 +149,29 @@ void tst_editorend::onlyTheFirstAnswerCounts()
         dialog.key(Qt::Key_Escape);
         dialog.click("ButtonClose");
     });
+    QCOMPARE(stage.target.came, QStringList(QStringLiteral("Cancel")));
+}
+
+void tst_editorend::aSecondOKSavesNothingMore()
+{
+    EditorStage stage;
+    stage.run([](const OpenDialog &dialog) {
+        dialog.click("ButtonOK");
+        dialog.click("ButtonOK");
+    });
+    QCOMPARE(nameOf(CurrentProfile().MACRO[0]), QStringLiteral("Custom"));
+    QCOMPARE(nameOf(CurrentProfile().MACRO[1]), QString());
+}
+
+void tst_editorend::anOKAfterCancelSavesNothing()
+{
+    EditorStage stage;
+    const ConfigData before = m_Config;
+    stage.run([](const OpenDialog &dialog) {
+        dialog.click("ButtonCancel");
+        dialog.click("ButtonOK");
+    });
+    QVERIFY(isUnchanged(before));
     QCOMPARE(stage.target.came, QStringList(QStringLiteral("Cancel")));
 }
 

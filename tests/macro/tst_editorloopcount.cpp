@@ -7,6 +7,7 @@ class tst_editorloopcount : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void aFlagThatIsNeitherAsksForNoCount();
     void aCountOutOfBoundsIsRefused_data();
     void aCountOutOfBoundsIsRefused();
     void aCountOfAFileOutOfBoundsIsRefused_data();
@@ -196,6 +197,19 @@ void tst_editorloopcount::aCountThatIsRefusedOutOfSightCanBeCorrected()
         dialog.click("ButtonOK");
     });
     QCOMPARE(stage.target.came, QStringList(QStringLiteral("OK")));
+}
+
+/// As a file may have it: only a 1 counts as on.
+void tst_editorloopcount::aFlagThatIsNeitherAsksForNoCount()
+{
+    MacroInfo macro = countingMacro(1000);
+    macro.bLOOP = 2;
+    const EditorStage stage(macro);
+    stage.type(stage.name(), "saved");
+    const MacroInfo &stored = stage.confirmed();
+    QCOMPARE(nameOf(stored), QStringLiteral("saved"));
+    QCOMPARE(stored.MACRO_LOOP, 1000U);
+    QCOMPARE(stored.bLOOP, 2U);
 }
 
 KYR_GUI_TEST(tst_editorloopcount)

@@ -1,4 +1,5 @@
 #include "editorstage.h"
+#include "support/paintwatch.h"
 #include "support/suite.h"
 
 /// What the macro editor shows of a macro: a new one, one of the profile, one of a damaged file.
@@ -20,7 +21,9 @@ private Q_SLOTS:
     void theLoopCountIsShown();
     void aFlagSelectsItsBox_data();
     void aFlagSelectsItsBox();
+    void aFlagThatIsNeitherSelectsTheBoxAlone();
     void copyAndPasteShowsKeysAndText();
+    void theDialogIsDrawnAnewWithAMode();
 };
 
 namespace {
@@ -182,6 +185,35 @@ void tst_editorsetting::aFlagSelectsItsBox()
     QCOMPARE(stage.display("pStartDisplayView").hasFocus(), flag == 1);
     stage.click("pSendDisplayView");
     QCOMPARE(stage.display("pSendDisplayView").hasFocus(), flag == 0);
+}
+
+/// As a file may have it: the box shows it as set, but what belongs to it is not enabled.
+void tst_editorsetting::aFlagThatIsNeitherSelectsTheBoxAlone()
+{
+    MacroInfo macro = namedMacro("flags");
+    macro.bLOOP = 2;
+    macro.bSTARTKEY = 2;
+    macro.bSENDKEY = 3;
+    const EditorStage stage(macro);
+    QVERIFY(stage.button("ButtonLoop").isChecked());
+    QVERIFY(stage.loop().isReadOnly());
+    stage.click("ButtonCopy");
+    for (const auto &[box, field] : {std::pair("ButtonStartKey", "pStartDisplayView"),
+                                     {"ButtonSendKey", "pSendDisplayView"}}) {
+        QVERIFY(stage.button(box).isChecked());
+        stage.click(field);
+        QVERIFY(!stage.display(field).hasFocus());
+    }
+}
+
+void tst_editorsetting::theDialogIsDrawnAnewWithAMode()
+{
+    const EditorStage stage;
+    QCoreApplication::processEvents();
+    const PaintWatch watch(*stage.view);
+    stage.click("ButtonCopy");
+    // The title and the name's label stay where they are.
+    QTRY_VERIFY(watch.hasPainted({60, 20}) && watch.hasPainted({30, 95}));
 }
 
 void tst_editorsetting::copyAndPasteShowsKeysAndText()

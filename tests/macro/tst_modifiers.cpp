@@ -22,6 +22,7 @@ private Q_SLOTS:
     void capsLockGoesOneBeyondTheLimit_data();
     void capsLockGoesOneBeyondTheLimit();
     void capsLockStaysInTheStore();
+    void anyOtherKeyWhoseFlagsChangeIsRecordedAsAPress();
     void aFullListTakesNoModifierKey();
     void aModifierKeyHeldSinceBeforeIsRecordedWhenItGoesUp();
     void noModifierKeyIsHeldAfterTheKeyboardWasElsewhere();
@@ -144,6 +145,20 @@ void tst_modifiers::capsLockStaysInTheStore()
     keystroke::tap(kCapsLock);
     QCOMPARE(stage.display.count(), kEventCount);
     QCOMPARE(listed(stage.display.getKeymapInfo().last(2)), QStringLiteral("48:1:0 57:1:0"));
+}
+
+/// The keyboard has no such key; another source of keys may.
+void tst_modifiers::anyOtherKeyWhoseFlagsChangeIsRecordedAsAPress()
+{
+    struct Recorder : MacroDisplay
+    {
+        using MacroDisplay::flagsChanged;
+        using MacroDisplay::MacroDisplay;
+    };
+    const LogCapture log;
+    Recorder recorder(nullptr);
+    recorder.flagsChanged({.type = KeyEventType::FlagsChanged, .keyCode = 52, .characters = {}});
+    QCOMPARE(listed(recorder.getKeymapInfo().first(2)), QStringLiteral("52:1:0 0:0:0"));
 }
 
 void tst_modifiers::aFullListTakesNoModifierKey()

@@ -141,6 +141,7 @@ void tst_recording::aKeyWithoutACodeChangesNothing()
     const Events slots(before.begin(), before.end());
     stage.log.lines.clear();
     keystroke::press(keystroke::kPause, at(5000));
+    keystroke::release(keystroke::kPause, at(6000));
     QCOMPARE(stage.log.lines.front(), std::string("no virtual key code for scan code 127"));
     QCOMPARE(stage.display.count(), 2U);
     QVERIFY(std::ranges::equal(stage.display.getKeymapInfo(), slots));

@@ -1,4 +1,5 @@
 #include "macroeditstage.h"
+#include "support/paintwatch.h"
 #include "support/suite.h"
 
 /// Macros deleted from their panel, without a warning.
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void theLastRowsStayInSight();
     void theRowsCarryTheirNewCodes();
     void aClickGivesTheNewCode();
+    void thePanelIsDrawnAnew();
     void aCollapsedPanelDeletesItsSelection();
 };
 
@@ -196,6 +198,17 @@ void tst_macrodeletion::aClickGivesTheNewCode()
     stage.select(5);
     QCOMPARE(PanelsStage::code(7), 261U);
     QCOMPARE(stage.program.mouseButton(7).captionText(), QStringLiteral("M 6"));
+}
+
+void tst_macrodeletion::thePanelIsDrawnAnew()
+{
+    const MacroEditStage stage(3);
+    stage.select(0);
+    QCoreApplication::processEvents();
+    const PaintWatch watch(stage.panel(PanelId::Macro));
+    pointer::click(stage.headerButton("btnDelete"));
+    // In the header, clear of the buttons.
+    QTRY_VERIFY(watch.hasPainted({100, 12}));
 }
 
 void tst_macrodeletion::aCollapsedPanelDeletesItsSelection()

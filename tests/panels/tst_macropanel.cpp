@@ -1,3 +1,4 @@
+#include "macro/rightbarMacro.h"
 #include "macrostage.h"
 #include "support/paintwatch.h"
 #include "support/suite.h"
@@ -11,6 +12,7 @@ private Q_SLOTS:
     void thePartsHaveTheirPlaces();
     void theMacrosAreListedUpToTheFirstWithoutAName_data();
     void theMacrosAreListedUpToTheFirstWithoutAName();
+    void aNewPanelListsThemAtOnce();
     void theMacrosAreThoseOfTheCurrentProfile();
     void theListIsReadAgainAsThePanelExpands();
     void theOpenListFollowsAChangeOfTheProfile();
@@ -61,6 +63,16 @@ void tst_macropanel::theMacrosAreListedUpToTheFirstWithoutAName()
         nameMacro(count + 1, "behind a gap");
     stage.openAt(PanelId::Macro);
     QCOMPARE(stage.rows(), macroRows(count));
+}
+
+void tst_macropanel::aNewPanelListsThemAtOnce()
+{
+    m_Config = {};
+    nameMacros(4);
+    View window;
+    const rightbarMacro panel(&window, {0, 0, 177, 290}, {});
+    auto *const list = panel.findChild<QWidget *>(QStringLiteral("pMacroListbox"));
+    QCOMPARE(static_cast<pngListBox *>(list)->getCount(), 4);
 }
 
 void tst_macropanel::theMacrosAreThoseOfTheCurrentProfile()

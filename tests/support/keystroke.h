@@ -67,13 +67,20 @@ inline void tap(const HardwareKey &key)
     release(key);
 }
 
-/// A key that is held down sends pairs of a release and a press.
+/// A key that is held down sends pairs of a release and a press, or where the display is asked for
+/// it presses only, which look like any others.
 inline void repeat(const HardwareKey &key, int times)
 {
     for (int time = 0; time < times; ++time) {
         release(key, {.isRepeat = true, .modifiers = {}});
         press(key, {.isRepeat = true, .modifiers = {}});
     }
+}
+
+inline void repeatPresses(const HardwareKey &key, int times)
+{
+    for (int time = 0; time < times; ++time)
+        press(key);
 }
 
 } // namespace keystroke
