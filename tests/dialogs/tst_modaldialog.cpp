@@ -13,6 +13,7 @@ class tst_modaldialog : public QObject
 private Q_SLOTS:
     void theWindowIsMadeAtItsOwnersCorner();
     void itsFirstControlHasTheKeyboard();
+    void runAgainWhileItRunsItGoesOn();
     void theAnswerIsTheTagOfTheButton_data();
     void theAnswerIsTheTagOfTheButton();
     void theFirstAnswerHolds();
@@ -106,6 +107,18 @@ void tst_modaldialog::itsFirstControlHasTheKeyboard()
         QVERIFY(stage.view->field->hasFocus());
         stage.click("close");
     });
+}
+
+void tst_modaldialog::runAgainWhileItRunsItGoesOn()
+{
+    FieldDialogStage stage;
+    stage.run([&] {
+        stage.view->runModal();
+        QVERIFY(stage.view->window()->isVisible());
+        QCOMPARE(FieldDialog::answers, QList<int>());
+        stage.click("other");
+    });
+    QCOMPARE(FieldDialog::answers, QList<int>{kOtherTag});
 }
 
 void tst_modaldialog::theAnswerIsTheTagOfTheButton_data()
