@@ -62,9 +62,9 @@ void describeScreens(const QTemporaryDir &folder)
 }
 
 /// A window of 200 x 150 at a place of the screens.
-struct WindowStage
+struct DraggedStage
 {
-    explicit WindowStage(QPoint place)
+    explicit DraggedStage(QPoint place)
     {
         window.setBCanDragWindow(true);
         window.move(place);
@@ -123,14 +123,14 @@ void tst_screens::aDragIsLimitedByTheScreenUnderThePointer()
 {
     QFETCH(QPoint, pointerEnd);
     QFETCH(int, top);
-    WindowStage stage({300, 300});
+    DraggedStage stage({300, 300});
     stage.drag({{400, 370}, pointerEnd});
     QCOMPARE(stage.window.pos(), QPoint(pointerEnd.x() - kPress.x(), top));
 }
 
 void tst_screens::theMovedWindowIsLimitedByTheScreenUnderThePointer()
 {
-    WindowStage stage({300, 300});
+    DraggedStage stage({300, 300});
     custumwindow main{{0, 0, 200, 400}, nullptr};
     main.move(500, 200);
     main.show();
@@ -141,7 +141,7 @@ void tst_screens::theMovedWindowIsLimitedByTheScreenUnderThePointer()
 
 void tst_screens::offAllScreensTheWindowsOwnScreenLimitsADrag()
 {
-    WindowStage stage({1100, 300});
+    DraggedStage stage({1100, 300});
     stage.drag({{1200, 340}, {1200, 60}}); // over the right screen there is nothing
     QCOMPARE(stage.window.pos(), QPoint(1150, 150));
 }
@@ -149,7 +149,7 @@ void tst_screens::offAllScreensTheWindowsOwnScreenLimitsADrag()
 void tst_screens::centringStaysOnTheWindowsOwnScreen()
 {
     QFETCH(QRect, screen);
-    WindowStage stage(screen.topLeft() + QPoint(20, 30));
+    DraggedStage stage(screen.topLeft() + QPoint(20, 30));
     stage.window.center();
     const QPoint off = stage.window.geometry().center() - screen.center();
     QVERIFY(off.manhattanLength() <= 1);
@@ -172,7 +172,7 @@ void tst_screens::centringOverAWindowStaysOnThatWindowsScreen()
 {
     QFETCH(QPoint, place);
     QFETCH(QPoint, centred);
-    WindowStage stage(place);
+    DraggedStage stage(place);
     custumwindow window{{0, 0, 100, 50}, &stage.window};
     window.centerOver(stage.window);
     QCOMPARE(window.geometry(), QRect(centred, QSize(100, 50)));
@@ -181,7 +181,7 @@ void tst_screens::centringOverAWindowStaysOnThatWindowsScreen()
 void tst_screens::aFrameIsKeptOnEveryScreen()
 {
     QFETCH(QRect, screen);
-    WindowStage stage(screen.topLeft());
+    DraggedStage stage(screen.topLeft());
     // Upwards from the primary screen's lower edge.
     const UpRect frame{screen.x() + 40, 800 - screen.y() - 200, 200, 150};
     stage.window.setFrame(frame);

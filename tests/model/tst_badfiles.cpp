@@ -1,3 +1,4 @@
+#include "badfile.h"
 #include "storefixture.h"
 #include "support/binaryplist.h"
 #include "support/plistxml.h"
@@ -32,11 +33,6 @@ private Q_SLOTS:
 namespace {
 
 const char kInteger[] = "<integer>1</integer>";
-
-QByteArray nested(const char *open, const char *close, int depth)
-{
-    return plistWithRoot(QByteArray(open).repeated(depth) + QByteArray(close).repeated(depth));
-}
 
 /// A binary property list of a dictionary {"a": array} whose arrays refer to the next one `width`
 /// times, `levels` deep, or back to the first when `isCircle`.
@@ -188,9 +184,6 @@ void tst_badfiles::aBinaryFileThatSharesObjectsIsRead()
     fixture.load(arraysOfArrays(levels, width, false));
     QVERIFY(sameRecord(m_Config, *std::make_unique<ConfigData>()));
 }
-
-using Maker = void (*)(const std::string &path);
-Q_DECLARE_METATYPE(Maker)
 
 void tst_badfiles::whatIsNoReadableFileGivesDefaults_data()
 {

@@ -1,3 +1,4 @@
+#include "badfile.h"
 #include "fakefilepanels.h"
 #include "randomrecord.h"
 #include "storefixture.h"
@@ -71,11 +72,6 @@ struct ProfileFixture : StoreFixture
     }
 };
 
-QByteArray nested(const char *open, const char *close, int depth)
-{
-    return plistWithRoot(QByteArray(open).repeated(depth) + QByteArray(close).repeated(depth));
-}
-
 } // namespace
 
 void tst_badprofilefiles::bytesThatAreNoPropertyListChangeNothing_data()
@@ -109,9 +105,6 @@ void tst_badprofilefiles::bytesThatAreNoPropertyListChangeNothing()
     QVERIFY(fixture.isRefused());
     QCOMPARE(entries(fixture), QStringList{kProfileName});
 }
-
-using Maker = void (*)(const std::string &path);
-Q_DECLARE_METATYPE(Maker)
 
 void tst_badprofilefiles::whatIsNoReadableFileChangesNothing_data()
 {
