@@ -12,12 +12,6 @@
 
 namespace {
 
-/// The screen without its panels and docks.
-UpRect visibleFrame(const QWidget &window, const QScreen &screen)
-{
-    return hostOf(window).up(screen.availableGeometry());
-}
-
 /// The screen that the pointer is on; the window's own where it is on none.
 const QScreen &screenOf(const QWidget &window, QPoint pointer)
 {
@@ -34,6 +28,11 @@ int centred(int start, int span, int length, int boundsStart, int boundsSpan)
 }
 
 } // namespace
+
+UpRect visibleFrame(const QWidget &window, const QScreen &screen)
+{
+    return hostOf(window).up(screen.availableGeometry());
+}
 
 UpPoint draggedOrigin(UpRect frame, UpPoint location, UpPoint initialLocation, UpRect visible)
 {

@@ -12,6 +12,9 @@
 /// `visible`.
 UpPoint draggedOrigin(UpRect frame, UpPoint location, UpPoint initialLocation, UpRect visible);
 
+/// What `screen` leaves to windows, without its panels and docks; a rectangle like a window's frame.
+UpRect visibleFrame(const QWidget &window, const QScreen &screen);
+
 /// A borderless window of the program: it can take the keyboard, its skin's transparent parts show
 /// what is behind it, and where wanted it is dragged by any point of its background.
 class custumwindow : public View

@@ -3,7 +3,6 @@
 #include "controls/rowdrag.h"
 #include "controls/scrollbars.h"
 #include "controls/wholetext.h"
-#include "platform/systemlog.h"
 
 #include <QtGui/QHelpEvent>
 
@@ -14,17 +13,9 @@ namespace {
 constexpr int kTextSize = 11;
 constexpr int kTextInset = 3; ///< the text stands in the row's strip shortened by this
 
-QColor colourOf(double red, double green, double blue)
-{
-    const auto component = [](double value) {
-        return static_cast<float>(std::clamp(value / 255.0, 0.0, 1.0));
-    };
-    return QColor::fromRgbF(component(red), component(green), component(blue));
-}
-
 } // namespace
 
-pngListBox::pngListBox(QWidget *parent, UpRect frame) : View(parent)
+pngListBox::pngListBox(QWidget *parent, UpRect frame) : PopupContent(parent)
 {
     setFrame(frame);
     setFocusPolicy(Qt::StrongFocus);
@@ -94,24 +85,6 @@ FunctionCode pngListBox::getfunctionid(int row) const
     return firstCode[_tag - kCpiListTag] + static_cast<FunctionCode>(row);
 }
 
-void pngListBox::observeWindowKeyChangeStart(const Action<pngListBox *> &action)
-{
-    FocusChangeAction = action;
-    m_keyWatch.start(window(), [this] { windowKeyChange(); });
-}
-
-void pngListBox::observeWindowKeyChangeStop()
-{
-    m_keyWatch.stop();
-    FocusChangeAction = {};
-}
-
-void pngListBox::windowKeyChange()
-{
-    systemLog("windowKeyChange");
-    FocusChangeAction.send(this);
-}
-
 UpRect pngListBox::strip(int row) const
 {
     return {0, height() - (row + 1) * m_ItemHeight, width(), m_ItemHeight};
@@ -149,7 +122,7 @@ void pngListBox::drawRect(Canvas &canvas)
 bool pngListBox::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip)
-        return View::event(event);
+        return PopupContent::event(event);
     const auto &help = *static_cast<QHelpEvent *>(event);
     showWholeText(help, *this, stringAt(rowAt(help.y())), QFontMetrics(systemFont(kTextSize)),
                   width() - m_rightMargin);
@@ -159,7 +132,7 @@ bool pngListBox::event(QEvent *event)
 void pngListBox::focusInEvent(QFocusEvent *event)
 {
     m_focusFrame.focusIn(*event);
-    View::focusInEvent(event);
+    PopupContent::focusInEvent(event);
 }
 
 void pngListBox::mouseDown(const ViewMouseEvent &event)
@@ -180,7 +153,7 @@ void pngListBox::mouseDown(const ViewMouseEvent &event)
 
 void pngListBox::mouseUp(const ViewMouseEvent &event)
 {
-    m_releasedAt = event.event->timestamp();
+    PopupContent::mouseUp(event);
     // The toolkit may send the release that has ended a drag here too.
     if (!m_isDragged)
         changeAction.send(this);
@@ -218,10 +191,8 @@ void pngListBox::keyDown(QKeyEvent *event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return changeAction.send(this);
-    case Qt::Key_Escape:
-        return FocusChangeAction.send(this);
     default:
-        return View::keyDown(event);
+        return PopupContent::keyDown(event);
     }
 }
 

@@ -1,10 +1,8 @@
 #pragma once
 
+#include "controls/popupcontent.h"
 #include "model/settings.h"
-#include "platform/action.h"
 #include "platform/focusframe.h"
-#include "platform/keywindow.h"
-#include "platform/view.h"
 
 #include <QtCore/QStringList>
 
@@ -15,9 +13,8 @@ inline constexpr int kMacroListTag = 4098;
 
 /// A plain list of text rows with its own colours, one selected row, a double click, and rows that
 /// can be dragged onto buttons. The arrow and page keys, Home and End move the selection, in a
-/// scroll area into view; Return sends what a click sends, F2 what a double click sends, Escape
-/// what the loss of the keyboard sends.
-class pngListBox : public View
+/// scroll area into view; Return sends what a click sends, F2 what a double click sends.
+class pngListBox : public PopupContent
 {
 public:
     explicit pngListBox(QWidget *parent, UpRect frame = {});
@@ -33,8 +30,6 @@ public:
     /// Selects a row (-1 = none) without telling anybody.
     void setcursel(int row);
     int getcursel() const { return _currentpos; }
-    /// The time stamp of the last release of the mouse, in milliseconds; 0 before the first.
-    quint64 releasedAt() const { return m_releasedAt; }
 
     /// Colours of the texts and of the selected row, 0..255 a component; beyond that the nearest.
     void setTextColor(double red, double Green, double Blue);
@@ -43,6 +38,7 @@ public:
     void setTextAlign(TextAlign align);
     /// Height of a row in points; less than 1 is taken as 1.
     void setItemHeight(int height);
+    int itemHeight() const { return m_ItemHeight; }
     /// Whether rows can be dragged out; only rows that stand for functions can.
     void enableDragDrop(bool enable) { bEnableDragDrop = enable; }
 
@@ -54,17 +50,10 @@ public:
     void setChangeAction(const Action<pngListBox *> &action) { changeAction = action; }
     /// Sent with the list on a double click.
     void setDBClickAction(const Action<pngListBox *> &action);
-    void setTag(int tag) { _tag = tag; }
-    int tag() const { return _tag; }
 
     /// The function that a row of the CPI, profile or macro list stands for. Lists with other tags
     /// have none and must not be asked: they answer 0.
     FunctionCode getfunctionid(int row) const;
-
-    /// Sends the action with the list when its window stops being the key window.
-    void observeWindowKeyChangeStart(const Action<pngListBox *> &action);
-    /// Nothing is sent any more, not for the Escape key either.
-    void observeWindowKeyChangeStop();
 
 protected:
     void drawRect(Canvas &canvas) override;
@@ -80,14 +69,11 @@ private:
     UpRect textPlace(int row) const;
     int rowAt(int fromTop) const;
     bool hasFunctions() const { return _tag >= kCpiListTag && _tag <= kMacroListTag; }
-    void windowKeyChange();
     int rowsInSight() const;
     void moveSelection(int by);
 
     QStringList pListArray;
-    int _tag = 0;
     Action<pngListBox *> changeAction;
-    Action<pngListBox *> FocusChangeAction;
     Action<pngListBox *> dbClickAction;
     int _currentpos = -1;
     TextAlign _textAlign = TextAlign::Centre;
@@ -101,9 +87,7 @@ private:
     bool bEnableDBClick = false;
     int m_ItemHeight = 20;
     int m_rightMargin = 0;
-    KeyWindowWatch m_keyWatch;
     FocusFrame m_focusFrame;
-    quint64 m_releasedAt = 0;
     bool m_isDragged = false; ///< a row was dragged since the last press
     QPoint m_pressedAt;       ///< where the left button went down, for the drag threshold
 };

@@ -8,7 +8,7 @@
 pngProgressBar::pngProgressBar(QWidget *parent, UpRect frame) : ViewOf(parent)
 {
     setFrame(frame);
-    setFocusPolicy(Qt::TabFocus);
+    setFocusPolicy(Qt::StrongFocus);
     updateSlider();
     connect(this, &QAbstractSlider::valueChanged, this, &pngProgressBar::takeSliderValue);
 }
@@ -42,7 +42,7 @@ void pngProgressBar::setposRange(double minValue, double maxValue)
 void pngProgressBar::setAllowMouseChangeFlag(bool allow)
 {
     bAllowMouseChangeFlag = allow;
-    setFocusPolicy(allow ? Qt::TabFocus : Qt::NoFocus);
+    setFocusPolicy(allow ? Qt::StrongFocus : Qt::NoFocus);
 }
 
 void pngProgressBar::setPos(int pos)
@@ -71,7 +71,7 @@ void pngProgressBar::drawRect(Canvas &canvas)
     const QSize shown =
         isHorizontal() ? QSize(uncovered(width()), height()) : QSize(width(), uncovered(height()));
     canvas.drawImagePart(OverImage, {}, shown);
-    if (hasFocus())
+    if (m_focusFrame.isShown(*this))
         canvas.outline(canvas.bounds(), kWhite);
 }
 
@@ -105,12 +105,21 @@ void pngProgressBar::keyDown(QKeyEvent *event)
         event->ignore();
 }
 
+void pngProgressBar::focusInEvent(QFocusEvent *event)
+{
+    m_focusFrame.focusIn(*event);
+    ViewOf::focusInEvent(event);
+}
+
 void pngProgressBar::wheelEvent(QWheelEvent *event)
 {
-    if (bAllowMouseChangeFlag)
-        ViewOf::wheelEvent(event);
-    else
-        event->ignore();
+    if (!bAllowMouseChangeFlag)
+        return event->ignore();
+    // By itself the toolkit would move as many steps as a text scrolls lines.
+    m_turned += event->angleDelta().y();
+    const int notches = m_turned / QWheelEvent::DefaultDeltasPerStep;
+    m_turned %= QWheelEvent::DefaultDeltasPerStep;
+    setValue(getPos() + notches);
 }
 
 /// The toolkit changed the value by itself: by a key, the wheel, or for assistive technology.

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "platform/action.h"
+#include "platform/focusframe.h"
 #include "platform/view.h"
 
 #include <QtWidgets/QAbstractSlider>
 
 /// A bar drawn from two pictures, the over picture uncovered as far as the position goes; where the
-/// mouse may change it, a slider, also for the arrow keys.
+/// mouse may change it, a slider. The arrow keys and each notch of the wheel move that by one.
 class pngProgressBar : public ViewOf<QAbstractSlider>
 {
 public:
@@ -37,6 +38,7 @@ protected:
     void mouseDown(const ViewMouseEvent &event) override;
     void mouseDragged(const ViewMouseEvent &event) override;
     void keyDown(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
@@ -55,4 +57,6 @@ private:
     int _tag = 0;
     Action<pngProgressBar *> changeAction;
     bool bAllowMouseChangeFlag = true;
+    FocusFrame m_focusFrame;
+    int m_turned = 0; ///< what of the wheel's turn is less than a notch yet
 };

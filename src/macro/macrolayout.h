@@ -138,7 +138,7 @@ constexpr const FieldRow &rowOf(Field field)
 
 constexpr bool liesInside(UpRect box)
 {
-    return box.x >= 0 && box.y >= 0 && box.x + box.width <= kWidth && box.y + box.height <= kHeight;
+    return UpRect{0, 0, kWidth, kHeight}.holds(box);
 }
 constexpr bool liesInside(const Places &places)
 {

@@ -2,15 +2,12 @@
 
 #include "app/windowcontroll.h"
 #include "controls/contextmenu.h"
-#include "controls/custumwindow.h"
-#include "controls/HoverButton.h"
-#include "controls/pngListBox.h"
 #include "controls/pngProgressBar.h"
+#include "controls/popuplist.h"
 #include "driver/driverlink.h"
 #include "mainview/controltable.h"
 #include "mainview/environment.h"
 #include "model/xmlconfig.h"
-#include "platform/doubleclickguard.h"
 
 #include <span>
 
@@ -199,7 +196,6 @@ private:
     void assign(HoverButton *button, FunctionCode code);
     void DisplayButtonListBox(int buttonid);
     void ButtonListboxAction(pngListBox *sender);
-    void closeChosenList(const QPointer<custumwindow> &list);
     void CloseButtonListBox(QWidget *sender);
 
     Environment m_environment;
@@ -212,10 +208,7 @@ private:
     pngProgressBar *MSMemoryUsageBar = nullptr;
 
     int m_curButtonID = -1;
-    QPointer<custumwindow> pListbox;
-    QPointer<pngListBox> pListboxView;
-    bool bListboxPresent = false;
-    DoubleClickGuard m_listClickGuard; ///< for those who double click a row
+    PopupList m_quickList;
 
     custumwindow *pPopUpBarWindow = nullptr;
     PopupProgressBar *pPopUpBarView = nullptr;

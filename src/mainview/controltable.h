@@ -135,11 +135,9 @@ consteval bool controlTableHolds()
 {
     for (std::size_t i = 0; i < kControlCount; ++i) {
         const ControlRow &row = kControlTable[i];
-        const UpRect &box = row.frame;
         if (row.id != static_cast<ControlId>(i))
             return false;
-        if (box.x < 0 || box.y < 0 || box.x + box.width > kMainViewWidth ||
-            box.y + box.height > kMainViewHeight)
+        if (!UpRect{0, 0, kMainViewWidth, kMainViewHeight}.holds(row.frame))
             return false;
         if (std::ranges::count(kControlTable, row.tag, &ControlRow::tag) != 1)
             return false;

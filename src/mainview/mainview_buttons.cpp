@@ -5,7 +5,6 @@
 namespace {
 
 constexpr int kQuickListTag = 8192;
-constexpr int kQuickListHeight = 140;
 
 struct QuickRow
 {
@@ -121,25 +120,15 @@ void MainView::macrosChanged()
 
 void MainView::DisplayButtonListBox(int buttonid)
 {
-    if (bListboxPresent)
-        CloseButtonListBox(this);
-    const UpRect frame = GetButtonHandle(buttonid)->frame();
-    const UpPoint below = onScreen(*this, {frame.x, frame.y - kQuickListHeight});
-    pListbox = new custumwindow({below.x, below.y, frame.width, kQuickListHeight}, window());
-    pListbox->setAttribute(Qt::WA_DeleteOnClose);
-    pListbox->setObjectName(QStringLiteral("pListbox"));
-    pListbox->setWindowTitle(QStringLiteral("Basic Functions"));
-    pListboxView = new pngListBox(pListbox);
-    pListboxView->setObjectName(QStringLiteral("pListboxView"));
-    pListboxView->setTag(kQuickListTag);
-    pListboxView->setChangeAction({this, &MainView::ButtonListboxAction});
-    for (const QuickRow &row : kQuickRows)
-        pListboxView->AddString(QLatin1String(row.text));
-    pListbox->setContentView(pListboxView);
-    makeKeyAndOrderFront(*pListbox);
-    pListboxView->setFocus();
-    pListboxView->observeWindowKeyChangeStart({this, &MainView::CloseButtonListBox});
-    bListboxPresent = true;
+    CloseButtonListBox(this);
+    std::array<const char *, std::size(kQuickRows)> texts;
+    std::ranges::transform(kQuickRows, texts.begin(), &QuickRow::text);
+    m_quickList.open(*GetButtonHandle(buttonid),
+                     {.title = "Basic Functions",
+                      .tag = kQuickListTag,
+                      .texts = texts,
+                      .changeAction = {this, &MainView::ButtonListboxAction}},
+                     {this, &MainView::CloseButtonListBox});
 }
 
 void MainView::ButtonListboxAction(pngListBox *sender)
@@ -152,32 +141,13 @@ void MainView::ButtonListboxAction(pngListBox *sender)
             selected->setCaptionText(QLatin1String(kQuickRows[row].text));
             CurrentProfile().BUTTON[m_curButtonID] = kQuickRows[row].code;
         }
-        // Later: the list is still handling the click that brought us here.
-        performDeferred(this, &MainView::closeChosenList, pListbox);
+        m_quickList.chosen();
     }
     setApplyButtonStatus(true);
     CalcMouseMemoryUsage();
 }
 
-void MainView::closeChosenList(const QPointer<custumwindow> &list)
-{
-    // By now another right click may have opened a new list, which stays.
-    if (!list || list != pListbox)
-        return;
-    m_listClickGuard.arm(pListboxView->releasedAt());
-    CloseButtonListBox(this);
-}
-
 void MainView::CloseButtonListBox(QWidget * /*sender*/)
 {
-    if (!bListboxPresent)
-        return;
-    systemLog("CloseListBox");
-    if (pListbox)
-        pListboxView->observeWindowKeyChangeStop();
-    // While the list still stands: without it no window of the program would have the keyboard.
-    makeKeyWindow(*window());
-    if (pListbox)
-        pListbox->close();
-    bListboxPresent = false;
+    m_quickList.close(*window());
 }

@@ -27,11 +27,6 @@ UpRect profileColorLine(unsigned index)
     return {frame.x + 2, frame.y - 10, frame.width - 4, 5};
 }
 
-float colourComponent(std::uint32_t level)
-{
-    return static_cast<float>(std::min(level, 255U)) / 255.0F;
-}
-
 } // namespace
 
 void MainView::buildControls()
@@ -120,7 +115,6 @@ void MainView::drawRect(Canvas &canvas)
 void MainView::DrawProfileColorLine(Canvas &canvas, unsigned index)
 {
     const ProfileInfo &profile = ProfileAt(index);
-    canvas.fill(profileColorLine(index), QColor::fromRgbF(colourComponent(profile.LED_COLOR_R),
-                                                          colourComponent(profile.LED_COLOR_G),
-                                                          colourComponent(profile.LED_COLOR_B)));
+    canvas.fill(profileColorLine(index),
+                colourOf(profile.LED_COLOR_R, profile.LED_COLOR_G, profile.LED_COLOR_B));
 }

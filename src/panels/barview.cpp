@@ -1,8 +1,11 @@
 #include "panels/barview.h"
 
+#include "platform/keywindow.h"
+
 namespace {
 
 constexpr int kTitleSize = 12;
+constexpr int kLabelSize = 11;
 
 } // namespace
 
@@ -10,8 +13,11 @@ BarView::BarView(const BarLook &look, QWidget *parent)
     : View(parent),
       m_look(look),
       BKImage(SkinImage::named(look.background)),
+      m_controls(new View(this)),
       btnToggle(new HoverButton(this, look.toggleRect))
 {
+    m_controls->setFrame(look.inside);
+    m_controls->hide();
     btnToggle->setObjectName(QStringLiteral("btnToggle"));
     btnToggle->setAccessibleName(QLatin1String(look.toggleDescription));
     btnToggle->setTag(look.toggleTag);
@@ -22,6 +28,22 @@ void BarView::awakeFromNib()
 {
     SetMinToggleImage();
     closeBar();
+}
+
+Faces BarView::faces() const
+{
+    return {BKImage, SkinImage::named(m_look.over), SkinImage::named(m_look.down)};
+}
+
+bool BarView::isShut() const
+{
+    return width() <= kBarHandle || height() <= kBarHandle;
+}
+
+void BarView::resizeEvent(QResizeEvent *event)
+{
+    View::resizeEvent(event);
+    isShut() ? hideQuietly(*m_controls) : m_controls->show();
 }
 
 void BarView::buttonAction(HoverButton *sender)
@@ -65,4 +87,7 @@ void BarView::drawRect(Canvas &canvas)
     canvas.drawLine(QLatin1String(m_look.title),
                     {title.x + origin.x, title.y + origin.y, title.width, title.height}, kGold,
                     TextAlign::Left, kTitleSize);
+    for (const BarLook::Label &label : m_look.labels)
+        canvas.DrawMyTextwithColor(QLatin1String(label.text), label.rect, kGold, TextAlign::Left,
+                                   kLabelSize);
 }

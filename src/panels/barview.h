@@ -1,8 +1,9 @@
 #pragma once
 
 #include "app/windowcontroll.h"
-#include "controls/HoverButton.h"
-#include "platform/view.h"
+#include "controls/faces.h"
+
+#include <span>
 
 /// What tells one bar from another: its pictures by name, its title and its handle.
 struct BarLook
@@ -14,9 +15,20 @@ struct BarLook
         const char *lit = ""; ///< under the pointer and pressed
     };
 
+    /// What is written beside a control, in gold.
+    struct Label
+    {
+        const char *text = "";
+        UpRect rect;
+    };
+
+    UpRect inside; ///< the open bar
     const char *background = "";
+    const char *over = ""; ///< the picture of its controls under the pointer
+    const char *down = ""; ///< and pressed
     const char *title = "";
     UpRect titleRect;
+    std::span<const Label> labels = {};
     int toggleTag = 0;
     UpRect toggleRect;
     const char *toggleDescription = ""; ///< for assistive technology
@@ -24,7 +36,7 @@ struct BarLook
     Handle closed;
 };
 
-/// The content of a bar: its background and title, and the handle that opens and closes it.
+/// The content of a bar: its background, title and labels, and the handle that opens and closes it.
 class BarView : public View
 {
 public:
@@ -36,7 +48,7 @@ public:
     void setWindowControll(windowcontroll *controll) { pWindowControll = controll; }
 
     /// A left click on a control, told apart by its tag.
-    void buttonAction(HoverButton *sender);
+    virtual void buttonAction(HoverButton *sender);
     /// The desktop asks the bar's window to close: an open bar closes to its handle, which stays.
     void closeRequested();
     /// The handle's faces of the open bar.
@@ -46,6 +58,13 @@ public:
 
 protected:
     void drawRect(Canvas &canvas) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+    /// Where the bar's controls belong, in the bar's own coordinates, so that those of a shut bar
+    /// are hidden and the tab key passes them by.
+    View &controls() const { return *m_controls; }
+    /// The bar in each state of its controls, whose faces are cut from these pictures.
+    Faces faces() const;
 
     /// Asks the controller to open or close this bar.
     virtual void toggleBar() = 0;
@@ -63,8 +82,11 @@ protected:
 private:
     void setToggleImages(const BarLook::Handle &handle);
 
+    bool isShut() const;
+
     const BarLook &m_look;
     SkinImage BKImage;
+    View *m_controls;
     HoverButton *btnToggle;
     windowcontroll *pWindowControll = nullptr;
 };

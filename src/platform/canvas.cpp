@@ -3,6 +3,8 @@
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QWidget>
 
+#include <algorithm>
+
 namespace {
 
 Qt::Alignment horizontal(TextAlign align)
@@ -19,6 +21,14 @@ Qt::Alignment horizontal(TextAlign align)
 }
 
 } // namespace
+
+QColor colourOf(double red, double green, double blue)
+{
+    const auto component = [](double level) {
+        return static_cast<float>(std::clamp(level / 255.0, 0.0, 1.0));
+    };
+    return QColor::fromRgbF(component(red), component(green), component(blue));
+}
 
 QFont systemFont(int size)
 {

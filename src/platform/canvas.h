@@ -16,6 +16,9 @@ enum class TextAlign { Left = 0, Right = 1, Centre = 2 };
 inline constexpr QColor kGold = QColor(255, 180, 0);
 inline constexpr QColor kWhite = QColor(255, 255, 255);
 
+/// The colour of these levels, 0..255 each; one beyond counts as the nearest.
+QColor colourOf(double red, double green, double blue);
+
 /// The system font at a size in points of the view, that is in pixels at scale 1.
 QFont systemFont(int size);
 

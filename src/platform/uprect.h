@@ -22,6 +22,12 @@ struct UpRect
     bool operator==(const UpRect &) const = default;
 
     constexpr UpPoint origin() const { return {x, y}; }
+    /// Whether all of `inner`, given in the same coordinates, lies within.
+    constexpr bool holds(const UpRect &inner) const
+    {
+        return inner.x >= x && inner.y >= y && inner.x + inner.width <= x + width &&
+               inner.y + inner.height <= y + height;
+    }
 };
 
 /// Something of a known height in which upward geometry is placed: a view, an image, a screen. The

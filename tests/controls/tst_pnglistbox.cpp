@@ -37,6 +37,7 @@ private Q_SLOTS:
 namespace {
 
 using Lists = ListStage::Lists;
+using Losses = Receiver<PopupContent>;
 
 } // namespace
 
@@ -263,35 +264,35 @@ void tst_pnglistbox::f2SendsTheDoubleClick()
 void tst_pnglistbox::returnSendsTheChangeAndEscapeTheKeyLoss()
 {
     ListStage stage;
-    Lists losses;
-    stage.list.observeWindowKeyChangeStart({&losses, &Lists::receive});
+    Losses losses;
+    stage.list.observeWindowKeyChangeStart({&losses, &Losses::receive});
     stage.list.setFocus();
     stage.key(Qt::Key_Return);
     stage.key(Qt::Key_Enter);
     QCOMPARE(stage.changes.count(), std::size_t{2});
     QCOMPARE(losses.count(), std::size_t{0});
     stage.key(Qt::Key_Escape);
-    QCOMPARE(losses.senders, std::vector{&stage.list});
+    QCOMPARE(losses.senders, std::vector<PopupContent *>{&stage.list});
     QCOMPARE(stage.changes.count(), std::size_t{2});
 }
 
 void tst_pnglistbox::losingTheKeyboardIsLoggedAndSent()
 {
     ListStage stage;
-    Lists losses;
-    stage.list.observeWindowKeyChangeStart({&losses, &Lists::receive});
+    Losses losses;
+    stage.list.observeWindowKeyChangeStart({&losses, &Losses::receive});
     QWidget other;
     other.show();
     other.activateWindow();
-    QTRY_COMPARE(losses.senders, std::vector{&stage.list});
+    QTRY_COMPARE(losses.senders, std::vector<PopupContent *>{&stage.list});
     QCOMPARE(stage.log.lines, std::vector<std::string>{"windowKeyChange"});
 }
 
 void tst_pnglistbox::aStoppedWatchSendsNothing()
 {
     ListStage stage;
-    Lists losses;
-    stage.list.observeWindowKeyChangeStart({&losses, &Lists::receive});
+    Losses losses;
+    stage.list.observeWindowKeyChangeStart({&losses, &Losses::receive});
     stage.list.observeWindowKeyChangeStop();
     stage.list.setFocus();
     stage.key(Qt::Key_Escape);

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/action.h"
+#include "platform/keywindow.h"
+#include "platform/view.h"
+
+/// What a pop-up window shows and the player chooses from. Escape sends what the loss of the
+/// keyboard sends.
+class PopupContent : public View
+{
+public:
+    using View::View;
+
+    void setTag(int tag) { _tag = tag; }
+    int tag() const { return _tag; }
+    /// The time stamp of the last release of the mouse, in milliseconds; 0 before the first.
+    quint64 releasedAt() const { return m_releasedAt; }
+
+    /// Sends the action with the view when its window stops being the key window.
+    void observeWindowKeyChangeStart(const Action<PopupContent *> &action);
+    /// Nothing is sent any more, not for the Escape key either.
+    void observeWindowKeyChangeStop();
+
+protected:
+    void mouseUp(const ViewMouseEvent &event) override;
+    void keyDown(QKeyEvent *event) override;
+
+    int _tag = 0;
+
+private:
+    void windowKeyChange();
+
+    Action<PopupContent *> FocusChangeAction;
+    KeyWindowWatch m_keyWatch;
+    quint64 m_releasedAt = 0;
+};

@@ -1,0 +1,131 @@
+#include "controls/popuplist.h"
+
+#include "platform/systemlog.h"
+
+#include <QtGui/QScreen>
+#include <QtWidgets/QApplication>
+
+namespace {
+
+/// Longer than a press may come after the loss of the keyboard that it causes, shorter than a
+/// player takes to the next press. In milliseconds.
+constexpr int kPressDelay = 200;
+
+class PopupWindow final : public custumwindow
+{
+public:
+    using custumwindow::custumwindow;
+};
+
+bool isPopup(const QWidget *window)
+{
+    return dynamic_cast<const PopupWindow *>(window) != nullptr;
+}
+
+UpRect onScreens(const QWidget &view, UpRect rect)
+{
+    const UpPoint origin = onScreen(view, rect.origin());
+    return {origin.x, origin.y, rect.width, rect.height};
+}
+
+pngListBox *makeList(const PopupList::Rows &rows)
+{
+    auto *const list = new pngListBox(nullptr);
+    list->setObjectName(QStringLiteral("pListboxView"));
+    list->setTag(rows.tag);
+    list->setChangeAction(rows.changeAction);
+    for (const char *text : rows.texts)
+        list->AddString(QLatin1String(text));
+    if (rows.selected >= 0 && rows.selected < list->getCount())
+        list->setcursel(rows.selected);
+    return list;
+}
+
+} // namespace
+
+UpRect popupFrame(UpRect button, UpRect below, UpRect visible)
+{
+    const int gap = button.y - (below.y + below.height);
+    const UpRect above{below.x, button.y + button.height + gap, below.width, below.height};
+    const bool fitsBelow = below.y >= visible.y;
+    const bool fitsAbove = above.y + above.height <= visible.y + visible.height;
+    return !fitsBelow && fitsAbove ? above : below;
+}
+
+void PopupList::attachTo(QAbstractButton &button)
+{
+    connect(&button, &QAbstractButton::pressed, this, &PopupList::pressed);
+}
+
+void PopupList::pressed()
+{
+    // The desktop may tell of the press before or after it has taken the keyboard away for it.
+    const bool justLost = m_sinceLost.isValid() && !m_sinceLost.hasExpired(kPressDelay);
+    m_isClosingPress = m_bListboxPresent || justLost;
+    m_sinceLost.invalidate();
+}
+
+void PopupList::open(const HoverButton &button, const Rows &rows,
+                     const Action<PopupContent *> &closeAction)
+{
+    pngListBox *const list = makeList(rows);
+    const UpRect at = button.frame();
+    const int height = list->getCount() * list->itemHeight();
+    open(button, {"pListbox", rows.title, list, {at.x, at.y - height, at.width, height}},
+         closeAction);
+}
+
+void PopupList::open(const QWidget &button, const Content &content,
+                     const Action<PopupContent *> &closeAction)
+{
+    const QWidget &view = *button.parentWidget();
+    const QScreen &screen = *view.window()->screen();
+    const UpRect at = onScreens(view, hostOf(button).up(button.geometry()));
+    const UpRect frame =
+        popupFrame(at, onScreens(view, content.frame), visibleFrame(*view.window(), screen));
+    pListbox = new PopupWindow(frame, view.window());
+    pListbox->setAttribute(Qt::WA_DeleteOnClose);
+    pListbox->setObjectName(QLatin1String(content.windowName));
+    pListbox->setWindowTitle(QLatin1String(content.title));
+    pListboxView = content.view;
+    pListboxView->setAccessibleName(QLatin1String(content.title));
+    pListbox->setContentView(pListboxView);
+    makeKeyAndOrderFront(*pListbox);
+    pListboxView->setFocus();
+    m_closeAction = closeAction;
+    pListboxView->observeWindowKeyChangeStart(closeAction);
+    m_bListboxPresent = true;
+}
+
+void PopupList::chosen()
+{
+    // Later: the list is still handling the click that brought us here.
+    performDeferred(this, &PopupList::sendClose, pListbox);
+}
+
+void PopupList::sendClose(const QPointer<custumwindow> &chosenIn)
+{
+    // By now another list may have been opened, which stays.
+    if (!chosenIn || chosenIn != pListbox || !m_bListboxPresent)
+        return;
+    m_secondClicks.arm(pListboxView->releasedAt());
+    m_closeAction.send(pListboxView);
+}
+
+void PopupList::close(QWidget &keyWindow)
+{
+    if (!m_bListboxPresent)
+        return;
+    systemLog("CloseListBox");
+    if (pListboxView)
+        pListboxView->observeWindowKeyChangeStop();
+    const QWidget *const active = QApplication::activeWindow();
+    if (active && active != pListbox)
+        m_sinceLost.start();
+    // While the list still stands: without it no window of the program would have the keyboard.
+    if (!isPopup(active) || active == pListbox)
+        makeKeyWindow(keyWindow);
+    if (pListbox)
+        pListbox->close();
+    m_bListboxPresent = false;
+}

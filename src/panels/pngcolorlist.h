@@ -1,0 +1,42 @@
+#pragma once
+
+#include "controls/popupcontent.h"
+
+#include <QtGui/QImage>
+
+/// A picture of colours to pick from: a click takes the colour of the picture's own pixel there.
+/// The arrow keys move a cross over it, with Shift by single points, and Return takes the colour
+/// there.
+class pngcolorlist : public PopupContent
+{
+public:
+    explicit pngcolorlist(QWidget *parent, UpRect frame = {});
+
+    /// The colour last picked, 0..255 a component; 0 before the first.
+    std::uint32_t getRed() const { return _red; }
+    std::uint32_t getGreen() const { return _green; }
+    std::uint32_t getBlue() const { return _blue; }
+
+    /// Sent with the view after a pick.
+    void setChangeAction(const Action<pngcolorlist *> &action) { changeAction = action; }
+
+protected:
+    void drawRect(Canvas &canvas) override;
+    void mouseDown(const ViewMouseEvent &event) override;
+    void mouseUp(const ViewMouseEvent &event) override;
+    void mouseDragged(const ViewMouseEvent &event) override;
+    void keyDown(QKeyEvent *event) override;
+
+private:
+    void pick(QPointF place);
+    void moveCross(QPoint by);
+
+    std::uint32_t _red = 0;
+    std::uint32_t _green = 0;
+    std::uint32_t _blue = 0;
+    Action<pngcolorlist *> changeAction;
+    SkinImage colorImage;
+    QImage m_pixels;           ///< of colorImage
+    QPoint m_cross;            ///< y downwards, like the picture's rows
+    bool m_showsCross = false; ///< once a key has moved it
+};
