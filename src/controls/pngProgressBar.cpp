@@ -1,6 +1,8 @@
 #include "controls/pngProgressBar.h"
 
+#include <QtGui/QHelpEvent>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -78,23 +80,38 @@ void pngProgressBar::drawRect(Canvas &canvas)
 void pngProgressBar::mouseDown(const ViewMouseEvent &event)
 {
     if (bAllowMouseChangeFlag)
-        followPointer(event.position);
+        followPointer(event);
 }
 
 void pngProgressBar::mouseDragged(const ViewMouseEvent &event)
 {
     if (bAllowMouseChangeFlag)
-        followPointer(event.position);
+        followPointer(event);
 }
 
-void pngProgressBar::followPointer(UpPoint point)
+void pngProgressBar::followPointer(const ViewMouseEvent &event)
 {
-    const int along = isHorizontal() ? point.x : point.y;
+    const int along = isHorizontal() ? event.position.x : event.position.y;
     const int length = std::max(1, isHorizontal() ? width() : height());
     // The minimum is not added back, on purpose: the left or bottom edge stands for 0, which
     // setPos() raises to the minimum.
     setPos(static_cast<int>(along * (_maximum - _minimum) / length));
+    tellPosition(event.event->globalPosition().toPoint());
     changeAction.send(this);
+}
+
+/// The two highest positions of a range from 1 look alike.
+void pngProgressBar::tellPosition(QPoint pointer)
+{
+    QToolTip::showText(pointer, QString::number(getPos()), this);
+}
+
+bool pngProgressBar::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || !bAllowMouseChangeFlag)
+        return ViewOf::event(event);
+    tellPosition(static_cast<QHelpEvent *>(event)->globalPos());
+    return true;
 }
 
 void pngProgressBar::keyDown(QKeyEvent *event)
@@ -120,6 +137,7 @@ void pngProgressBar::wheelEvent(QWheelEvent *event)
     const int notches = m_turned / QWheelEvent::DefaultDeltasPerStep;
     m_turned %= QWheelEvent::DefaultDeltasPerStep;
     setValue(getPos() + notches);
+    tellPosition(event->globalPosition().toPoint());
 }
 
 /// The toolkit changed the value by itself: by a key, the wheel, or for assistive technology.

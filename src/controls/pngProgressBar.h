@@ -7,7 +7,8 @@
 #include <QtWidgets/QAbstractSlider>
 
 /// A bar drawn from two pictures, the over picture uncovered as far as the position goes; where the
-/// mouse may change it, a slider. The arrow keys and each notch of the wheel move that by one.
+/// mouse may change it, a slider. The arrow keys and each notch of the wheel move that by one. A
+/// slider tells its position in numbers beside the pointer that moves it or rests on it.
 class pngProgressBar : public ViewOf<QAbstractSlider>
 {
 public:
@@ -40,11 +41,13 @@ protected:
     void keyDown(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     bool isHorizontal() const { return _DirStyle == 1; }
     int uncovered(int length) const;
-    void followPointer(UpPoint point);
+    void followPointer(const ViewMouseEvent &event);
+    void tellPosition(QPoint pointer);
     void takeSliderValue(int value);
     void updateSlider();
 

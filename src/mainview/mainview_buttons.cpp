@@ -121,7 +121,7 @@ void MainView::macrosChanged()
 void MainView::DisplayButtonListBox(int buttonid)
 {
     CloseButtonListBox(this);
-    std::array<const char *, std::size(kQuickRows)> texts;
+    std::array<const char *, std::size(kQuickRows)> texts{};
     std::ranges::transform(kQuickRows, texts.begin(), &QuickRow::text);
     m_quickList.open(*GetButtonHandle(buttonid),
                      {.title = "Basic Functions",

@@ -41,20 +41,17 @@ constexpr BarLook kLook{.inside = kInside,
 struct LevelRow
 {
     ButtonRow button;
-    int listTag;
-    const char *title; ///< of the list's window
-    const char *texts[4];
-    std::uint32_t ProfileInfo::*field;
+    int listTag = 0;
+    const char *texts[4] = {};
+    std::uint32_t ProfileInfo::*field = nullptr;
 };
 
 // clang-format off
 /// In the order of Level.
 constexpr LevelRow kLevels[] = {
     {{"btnIntensity", {167, 25, 122, 29}, kIntensityTag, "", "Intensity"}, kIntensityListTag,
-     "Intensity",
      {"High", "Medium", "Low", "Off"}, &ProfileInfo::LED_INTENSITY},
     {{"btnPulsation", {314, 25, 122, 29}, kPulsationTag, "", "Pulsation"}, kPulsationListTag,
-     "Pulsation",
      {"Fast", "Medium", "Low", "Off"}, &ProfileInfo::LED_PULSATION},
 };
 // clang-format on
@@ -153,7 +150,7 @@ void BottomView::displayLevels(Level level)
         return;
     const LevelRow &row = kLevels[level];
     m_popup.open(*m_levelButtons[level],
-                 {.title = row.title,
+                 {.title = row.button.description,
                   .tag = row.listTag,
                   .texts = row.texts,
                   .selected = static_cast<int>(CurrentProfile().*row.field),

@@ -45,13 +45,13 @@ constexpr double kMostLevel = 10;
 /// A bar and the level of the profile that it edits.
 struct LevelRow
 {
-    const char *name; ///< the object's
-    const char *description;
+    const char *name = "";        ///< the object's
+    const char *description = ""; ///< what it is called for assistive technology
     UpRect frame;
-    int tag;
-    int dirStyle;
-    std::uint32_t ProfileInfo::*field;
-    const char *logLine;
+    int tag = 0;
+    int dirStyle = kHorizontal;
+    std::uint32_t ProfileInfo::*field = nullptr;
+    const char *logLine = "";
 };
 
 // clang-format off
