@@ -12,7 +12,8 @@
 /// `visible`.
 UpPoint draggedOrigin(UpRect frame, UpPoint location, UpPoint initialLocation, UpRect visible);
 
-/// What `screen` leaves to windows, without its panels and docks; a rectangle like a window's frame.
+/// What `screen` leaves to windows, without its panels and docks; a rectangle like a window's
+/// frame.
 UpRect visibleFrame(const QWidget &window, const QScreen &screen);
 
 /// A borderless window of the program: it can take the keyboard, its skin's transparent parts show

@@ -51,3 +51,16 @@ HoverButton *makeCheckBox(QWidget *parent, const ButtonRow &row, const char *nor
     box->setCheckable(true);
     return box;
 }
+
+pngProgressBar *makeBar(QWidget *parent, const ButtonRow &row, int dirStyle, double minValue,
+                        double maxValue, const Faces &faces)
+{
+    auto *const bar = new pngProgressBar(parent, row.frame);
+    bar->setObjectName(QLatin1String(row.name));
+    bar->setAccessibleName(QLatin1String(row.description));
+    bar->setTag(row.tag);
+    bar->setDirStyle(dirStyle);
+    bar->setposRange(minValue, maxValue);
+    setFaces(*bar, faces, row.frame);
+    return bar;
+}

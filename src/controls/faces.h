@@ -18,7 +18,7 @@ void setFaces(HoverButton &button, const Faces &faces, UpRect frame);
 /// A bar is the normal picture, the part up to its position the hover one.
 void setFaces(pngProgressBar &bar, const Faces &faces, UpRect frame);
 
-/// A button of a window, as a row of the window's table.
+/// A button of a window, or a bar, as a row of the window's table.
 struct ButtonRow
 {
     const char *name = ""; ///< the button's object name
@@ -38,3 +38,8 @@ HoverButton *makeCheckBox(QWidget *parent, const ButtonRow &row, const char *nor
 
 /// A button in `parent`, which owns it, with its faces cut at its frame. It has no action yet.
 HoverButton *makeButton(QWidget *parent, const ButtonRow &row, const Faces &faces);
+
+/// A bar in `parent`, which owns it, with its faces cut at its frame. It has no action yet; the
+/// other parameters are those of setDirStyle() and setposRange().
+pngProgressBar *makeBar(QWidget *parent, const ButtonRow &row, int dirStyle, double minValue,
+                        double maxValue, const Faces &faces);

@@ -5,7 +5,6 @@
 #include <QtWidgets/QToolTip>
 
 #include <algorithm>
-#include <cmath>
 
 pngProgressBar::pngProgressBar(QWidget *parent, UpRect frame) : ViewOf(parent)
 {
@@ -116,10 +115,13 @@ bool pngProgressBar::event(QEvent *event)
 
 void pngProgressBar::keyDown(QKeyEvent *event)
 {
-    if (bAllowMouseChangeFlag)
-        ViewOf::keyDown(event);
-    else
-        event->ignore();
+    if (!bAllowMouseChangeFlag)
+        return event->ignore();
+    const QPointer<pngProgressBar> alive(this);
+    const int before = getPos();
+    ViewOf::keyDown(event);
+    if (alive && getPos() != before)
+        tellPosition(mapToGlobal(rect().center()));
 }
 
 void pngProgressBar::focusInEvent(QFocusEvent *event)
@@ -136,8 +138,10 @@ void pngProgressBar::wheelEvent(QWheelEvent *event)
     m_turned += event->angleDelta().y();
     const int notches = m_turned / QWheelEvent::DefaultDeltasPerStep;
     m_turned %= QWheelEvent::DefaultDeltasPerStep;
+    const QPointer<pngProgressBar> alive(this);
     setValue(getPos() + notches);
-    tellPosition(event->globalPosition().toPoint());
+    if (alive)
+        tellPosition(event->globalPosition().toPoint());
 }
 
 /// The toolkit changed the value by itself: by a key, the wheel, or for assistive technology.

@@ -8,7 +8,7 @@
 
 /// A bar drawn from two pictures, the over picture uncovered as far as the position goes; where the
 /// mouse may change it, a slider. The arrow keys and each notch of the wheel move that by one. A
-/// slider tells its position in numbers beside the pointer that moves it or rests on it.
+/// slider tells its position in numbers when it is moved and when the pointer rests on it.
 class pngProgressBar : public ViewOf<QAbstractSlider>
 {
 public:

@@ -5,10 +5,12 @@
 #include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
+
 namespace {
 
-/// Longer than a press may come after the loss of the keyboard that it causes, shorter than a
-/// player takes to the next press. In milliseconds.
+/// In milliseconds: when a press takes the keyboard from a list, the list's loss is told first, and
+/// the press at most this much later. A player's next press takes longer.
 constexpr int kPressDelay = 200;
 
 class PopupWindow final : public custumwindow
@@ -17,9 +19,10 @@ public:
     using custumwindow::custumwindow;
 };
 
-bool isPopup(const QWidget *window)
+bool isOtherPopup(const QWidget *window, const QWidget *own)
 {
-    return dynamic_cast<const PopupWindow *>(window) != nullptr;
+    return window != own && window->isVisible() &&
+           dynamic_cast<const PopupWindow *>(window) != nullptr;
 }
 
 UpRect onScreens(const QWidget &view, UpRect rect)
@@ -52,6 +55,12 @@ UpRect popupFrame(UpRect button, UpRect below, UpRect visible)
     return !fitsBelow && fitsAbove ? above : below;
 }
 
+bool PopupList::isOpen() const
+{
+    // The desktop may have closed a window that never had the keyboard to lose.
+    return bListboxPresent && pListbox && pListbox->isVisible();
+}
+
 void PopupList::attachTo(QAbstractButton &button)
 {
     connect(&button, &QAbstractButton::pressed, this, &PopupList::pressed);
@@ -61,7 +70,7 @@ void PopupList::pressed()
 {
     // The desktop may tell of the press before or after it has taken the keyboard away for it.
     const bool justLost = m_sinceLost.isValid() && !m_sinceLost.hasExpired(kPressDelay);
-    m_isClosingPress = m_bListboxPresent || justLost;
+    m_isClosingPress = isOpen() || justLost;
     m_sinceLost.invalidate();
 }
 
@@ -71,7 +80,12 @@ void PopupList::open(const HoverButton &button, const Rows &rows,
     pngListBox *const list = makeList(rows);
     const UpRect at = button.frame();
     const int height = list->getCount() * list->itemHeight();
-    open(button, {"pListbox", rows.title, list, {at.x, at.y - height, at.width, height}},
+    open(button,
+         {.windowName = "pListbox",
+          .title = rows.title,
+          .view = list,
+          .frame = {at.x, at.y - height, at.width, height},
+          .reason = button.showsKeyboard() ? Qt::TabFocusReason : Qt::OtherFocusReason},
          closeAction);
 }
 
@@ -91,10 +105,10 @@ void PopupList::open(const QWidget &button, const Content &content,
     pListboxView->setAccessibleName(QLatin1String(content.title));
     pListbox->setContentView(pListboxView);
     makeKeyAndOrderFront(*pListbox);
-    pListboxView->setFocus();
+    pListboxView->setFocus(content.reason);
     m_closeAction = closeAction;
     pListboxView->observeWindowKeyChangeStart(closeAction);
-    m_bListboxPresent = true;
+    bListboxPresent = true;
 }
 
 void PopupList::chosen()
@@ -106,7 +120,7 @@ void PopupList::chosen()
 void PopupList::sendClose(const QPointer<custumwindow> &chosenIn)
 {
     // By now another list may have been opened, which stays.
-    if (!chosenIn || chosenIn != pListbox || !m_bListboxPresent)
+    if (!chosenIn || chosenIn != pListbox || !bListboxPresent)
         return;
     m_secondClicks.arm(pListboxView->releasedAt());
     m_closeAction.send(pListboxView);
@@ -114,18 +128,26 @@ void PopupList::sendClose(const QPointer<custumwindow> &chosenIn)
 
 void PopupList::close(QWidget &keyWindow)
 {
-    if (!m_bListboxPresent)
+    if (!bListboxPresent)
         return;
     systemLog("CloseListBox");
     if (pListboxView)
         pListboxView->observeWindowKeyChangeStop();
-    const QWidget *const active = QApplication::activeWindow();
-    if (active && active != pListbox)
+    if (QApplication::activeWindow() != pListbox)
         m_sinceLost.start();
     // While the list still stands: without it no window of the program would have the keyboard.
-    if (!isPopup(active) || active == pListbox)
-        makeKeyWindow(keyWindow);
+    giveKeyboardTo(keyWindow);
     if (pListbox)
         pListbox->close();
-    m_bListboxPresent = false;
+    bListboxPresent = false;
+}
+
+/// Another list that is open, though perhaps not active yet, would close if it lost the keyboard.
+void PopupList::giveKeyboardTo(QWidget &keyWindow) const
+{
+    const auto isOther = [this](const QWidget *window) { return isOtherPopup(window, pListbox); };
+    if (std::ranges::any_of(QApplication::topLevelWidgets(), isOther))
+        return;
+    const bool closedByDesktop = pListbox && !pListbox->isVisible();
+    closedByDesktop ? keyWindow.activateWindow() : makeKeyWindow(keyWindow);
 }

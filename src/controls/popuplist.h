@@ -9,9 +9,9 @@
 
 #include <span>
 
-/// What opens in a window of its own below a button, takes the keyboard, and closes on a choice or
-/// when another window takes the keyboard. Of the lists that one of these opens, one at a time is
-/// open.
+/// What a view opens below its buttons: a list, or anything else to choose from, in a window of its
+/// own that takes the keyboard and closes on a choice or when another window takes that. One at a
+/// time is open.
 ///
 /// Where the screen ends too early below the button, the window opens above it.
 class PopupList : public QObject
@@ -33,21 +33,19 @@ public:
         const char *title = "";
         PopupContent *view = nullptr; ///< the window takes it over
         UpRect frame;
+        Qt::FocusReason reason = Qt::OtherFocusReason; ///< why the view has the keyboard then
     };
 
-    /// True while a window is open.
-    bool bListboxPresent() const { return m_bListboxPresent; }
-
-    /// Tells presses of `button` to pressed().
+    /// Tells presses of `button`, one that opens a list when it is clicked, to pressed().
     void attachTo(QAbstractButton &button);
     /// A control that opens a list was pressed; its click may follow.
     void pressed();
     /// Whether the click may open a list: none is open, and the press of the click was not the one
     /// that closed it by taking the keyboard away.
-    bool mayOpen() const { return !m_bListboxPresent && !m_isClosingPress; }
+    bool mayOpen() const { return !isOpen() && !m_isClosingPress; }
 
-    /// Opens a list directly below `button`, as wide as that; none may be open. `closeAction` is
-    /// sent when the list is to be closed, which close() then does.
+    /// Opens a list directly below `button`, as wide as that; one that is open is to be closed
+    /// first. `closeAction` is sent when the list is to be closed, which close() then does.
     void open(const HoverButton &button, const Rows &rows,
               const Action<PopupContent *> &closeAction);
     void open(const QWidget &button, const Content &content,
@@ -60,17 +58,19 @@ public:
     void close(QWidget &keyWindow);
 
 private:
+    bool isOpen() const;
     void sendClose(const QPointer<custumwindow> &chosenIn);
+    void giveKeyboardTo(QWidget &keyWindow) const;
 
     QPointer<custumwindow> pListbox;
     QPointer<PopupContent> pListboxView;
-    bool m_bListboxPresent = false;
+    bool bListboxPresent = false;
     Action<PopupContent *> m_closeAction;
-    bool m_isClosingPress = false;
-    QElapsedTimer m_sinceLost;       ///< runs from the loss of the keyboard to the next press
+    bool m_isClosingPress = false;   ///< the last press took the keyboard from a list
+    QElapsedTimer m_sinceLost;       ///< runs from a list's loss of the keyboard to the next press
     DoubleClickGuard m_secondClicks; ///< for those who double click a row
 };
 
-/// Where a window goes that is to lie at `below`, a place below `button`: there, or mirrored above
-/// the button where only that lies within `visible`.
+/// Where a window that belongs below `button`, at `below`, goes: there, or as far above the button
+/// where only that lies within `visible`.
 UpRect popupFrame(UpRect button, UpRect below, UpRect visible);

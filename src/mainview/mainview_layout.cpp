@@ -74,13 +74,7 @@ HoverButton *MainView::addHoverButton(const ControlRow &row, const Faces &skin)
 
 void MainView::addMemoryUsageBar(const ControlRow &row, const Faces &skin)
 {
-    MSMemoryUsageBar = new pngProgressBar(this, row.frame);
-    MSMemoryUsageBar->setObjectName(QLatin1String(row.name));
-    MSMemoryUsageBar->setAccessibleName(QLatin1String(row.description));
-    MSMemoryUsageBar->setTag(row.tag);
-    MSMemoryUsageBar->setDirStyle(1);
-    setFaces(*MSMemoryUsageBar, skin, row.frame);
-    MSMemoryUsageBar->setposRange(0, kFullMemory);
+    MSMemoryUsageBar = makeBar(this, row, 1, 0, kFullMemory, skin);
     MSMemoryUsageBar->setAllowMouseChangeFlag(false);
     MSMemoryUsageBar->setChangeAction({this, &MainView::progessbarAction});
 }

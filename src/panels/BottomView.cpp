@@ -1,7 +1,8 @@
 #include "panels/BottomView.h"
 
 #include "model/settings.h"
-#include "platform/systemlog.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -23,8 +24,7 @@ constexpr BarLook::Label kLabels[] = {
     {"Pulsation", {315, 56, 125, 15}},
 };
 
-constexpr BarLook kLook{.inside = kInside,
-                        .background = "bottomBar",
+constexpr BarLook kLook{.background = "bottomBar",
                         .over = "bottomO",
                         .down = "bottomD",
                         .title = "Illumination Settings",
@@ -36,25 +36,23 @@ constexpr BarLook kLook{.inside = kInside,
                         .open = {"botmini1", "botmini2"},
                         .closed = {"botmini3", "botmini4"}};
 
-/// A button that shows a level of the profile, and the list to choose it from. The rows stand for
-/// the codes 0..3.
-struct LevelRow
-{
-    ButtonRow button;
-    int listTag = 0;
-    const char *texts[4] = {};
-    std::uint32_t ProfileInfo::*field = nullptr;
-};
+constexpr const char *kIntensities[] = {"High", "Medium", "Low", "Off"};
+constexpr const char *kPulsations[] = {"Fast", "Medium", "Low", "Off"};
 
-// clang-format off
 /// In the order of Level.
-constexpr LevelRow kLevels[] = {
-    {{"btnIntensity", {167, 25, 122, 29}, kIntensityTag, "", "Intensity"}, kIntensityListTag,
-     {"High", "Medium", "Low", "Off"}, &ProfileInfo::LED_INTENSITY},
-    {{"btnPulsation", {314, 25, 122, 29}, kPulsationTag, "", "Pulsation"}, kPulsationListTag,
-     {"Fast", "Medium", "Low", "Off"}, &ProfileInfo::LED_PULSATION},
+constexpr LevelChoice::Look kLevels[] = {
+    {{"btnIntensity", {167, 25, 122, 29}, kIntensityTag, "", "Intensity"},
+     kIntensityListTag,
+     kIntensities,
+     &ProfileInfo::LED_INTENSITY,
+     "IDC_LISTBOX_INTENSITY:%d"},
+    // Logged under the name of the intensity too, on purpose.
+    {{"btnPulsation", {314, 25, 122, 29}, kPulsationTag, "", "Pulsation"},
+     kPulsationListTag,
+     kPulsations,
+     &ProfileInfo::LED_PULSATION,
+     "IDC_LISTBOX_INTENSITY:%d"},
 };
-// clang-format on
 
 constexpr UpRect kColorButton{20, 26, 122, 29};
 /// The colour picture covers the lower edge of its button.
@@ -71,19 +69,25 @@ void BottomView::awakeFromNib()
 {
     static_assert(std::size(kLevels) == kLevelCount);
     const Faces skin = faces();
-    btnColorButton = new colorbutton(&controls(), kColorButton);
+    View &controls = addControls(kInside);
+    makeColorButton(controls, skin);
+    for (std::size_t level = 0; level < kLevelCount; ++level) {
+        m_levels[level] = LevelChoice(kLevels[level], controls, skin);
+        m_levels[level].button().setAction({this, &BottomView::buttonAction});
+        m_popup.attachTo(m_levels[level].button());
+    }
+    BarView::awakeFromNib();
+}
+
+void BottomView::makeColorButton(View &parent, const Faces &skin)
+{
+    btnColorButton = new colorbutton(&parent, kColorButton);
     btnColorButton->setObjectName(QStringLiteral("btnColorButton"));
     btnColorButton->setAccessibleName(QStringLiteral("Color"));
     btnColorButton->setTag(kColorButtonTag);
     btnColorButton->setNormalImage(SkinImage::CopyImagefromrect(skin.normal, kColorButton));
     btnColorButton->setHoverImage(SkinImage::CopyImagefromrect(skin.over, kColorButton));
     btnColorButton->setLeftDownAction({this, &BottomView::colorButtonDown});
-    for (std::size_t level = 0; level < kLevelCount; ++level) {
-        m_levelButtons[level] = makeButton(&controls(), kLevels[level].button, skin);
-        m_levelButtons[level]->setAction({this, &BottomView::buttonAction});
-        m_popup.attachTo(*m_levelButtons[level]);
-    }
-    BarView::awakeFromNib();
 }
 
 void BottomView::InitSetting()
@@ -96,19 +100,12 @@ void BottomView::InitSetting()
 
 void BottomView::setIntensityButton(std::uint32_t code)
 {
-    setLevelButton(Intensity, code);
+    m_levels[Intensity].show(code);
 }
 
 void BottomView::setPulsationButton(std::uint32_t code)
 {
-    setLevelButton(Pulsation, code);
-}
-
-void BottomView::setLevelButton(Level level, std::uint32_t code)
-{
-    const LevelRow &row = kLevels[level];
-    if (code < std::size(row.texts))
-        m_levelButtons[level]->setCaptionText(QLatin1String(row.texts[code]));
+    m_levels[Pulsation].show(code);
 }
 
 void BottomView::setColorButton(std::uint32_t red, std::uint32_t green, std::uint32_t blue)
@@ -130,6 +127,7 @@ void BottomView::buttonAction(HoverButton *sender)
 
 void BottomView::colorButtonDown(colorbutton * /*sender*/)
 {
+    // It opens while the press is still being handled, so nobody else has told of that yet.
     m_popup.pressed();
     DisplayColorListbox();
 }
@@ -146,16 +144,8 @@ void BottomView::DisplayPulsationListBox()
 
 void BottomView::displayLevels(Level level)
 {
-    if (!m_popup.mayOpen())
-        return;
-    const LevelRow &row = kLevels[level];
-    m_popup.open(*m_levelButtons[level],
-                 {.title = row.button.description,
-                  .tag = row.listTag,
-                  .texts = row.texts,
-                  .selected = static_cast<int>(CurrentProfile().*row.field),
-                  .changeAction = {this, &BottomView::ListboxAction}},
-                 {this, &BottomView::CloseListBox});
+    m_levels[level].open(m_popup, {this, &BottomView::ListboxAction},
+                         {this, &BottomView::CloseListBox});
 }
 
 void BottomView::DisplayColorListbox()
@@ -166,31 +156,22 @@ void BottomView::DisplayColorListbox()
     picture->setObjectName(QStringLiteral("pColorListView"));
     picture->setTag(kColorListTag);
     picture->setChangeAction({this, &BottomView::ListboxAction});
-    m_popup.open(*btnColorButton, {"pColorListbox", "Color", picture, kColorList},
-                 {this, &BottomView::CloseColorListBox});
+    m_popup.open(
+        *btnColorButton,
+        {.windowName = "pColorListbox", .title = "Color", .view = picture, .frame = kColorList},
+        {this, &BottomView::CloseColorListBox});
 }
 
 void BottomView::ListboxAction(PopupContent *sender)
 {
-    const auto *const row = std::ranges::find(kLevels, sender->tag(), &LevelRow::listTag);
-    if (row != std::end(kLevels))
-        chooseLevel(static_cast<Level>(row - kLevels),
-                    static_cast<const pngListBox *>(sender)->getcursel());
-    else if (sender->tag() == kColorListTag)
+    const auto level = std::ranges::find(m_levels, sender->tag(), &LevelChoice::listTag);
+    if (level != m_levels.end()) {
+        level->take(*static_cast<const pngListBox *>(sender));
+        m_popup.chosen();
+    } else if (sender->tag() == kColorListTag) {
         chooseColor(*static_cast<const pngcolorlist *>(sender));
-    controller().setMainViewApplyStatus(true);
-}
-
-void BottomView::chooseLevel(Level level, int row)
-{
-    // The pulsation logs under the name of the intensity too, on purpose.
-    systemLog("IDC_LISTBOX_INTENSITY:%d", row);
-    // Return in a list without a selection chooses nothing.
-    if (row >= 0) {
-        CurrentProfile().*kLevels[level].field = static_cast<std::uint32_t>(row);
-        setLevelButton(level, static_cast<std::uint32_t>(row));
     }
-    m_popup.chosen();
+    controller().setMainViewApplyStatus(true);
 }
 
 void BottomView::chooseColor(const pngcolorlist &picture)
@@ -222,6 +203,7 @@ void BottomView::closePopup()
 
 void BottomView::toggleBar()
 {
+    closePopup();
     InitSetting();
     controller().toggleBottomBar();
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/popuplist.h"
 #include "panels/barview.h"
 #include "panels/colorbutton.h"
+#include "panels/levelchoice.h"
 #include "panels/pngcolorlist.h"
 
 #include <array>
@@ -45,14 +45,13 @@ private:
     enum Level : std::size_t { Intensity, Pulsation };
     static constexpr std::size_t kLevelCount = 2;
 
-    void setLevelButton(Level level, std::uint32_t code);
+    void makeColorButton(View &parent, const Faces &skin);
     void displayLevels(Level level);
-    void chooseLevel(Level level, int row);
     void chooseColor(const pngcolorlist &picture);
     void colorButtonDown(colorbutton *sender);
     void closePopup();
 
-    std::array<HoverButton *, kLevelCount> m_levelButtons{};
+    std::array<LevelChoice, kLevelCount> m_levels;
     colorbutton *btnColorButton = nullptr;
     PopupList m_popup;
 };

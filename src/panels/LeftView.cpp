@@ -3,6 +3,8 @@
 #include "model/settings.h"
 #include "platform/systemlog.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr UpRect kInside{0, 0, 202, 452};
@@ -17,8 +19,7 @@ constexpr BarLook::Label kLabels[] = {
     {"Y-Axis:", {125, 180, 40, 15}},
 };
 
-constexpr BarLook kLook{.inside = kInside,
-                        .background = "leftBar",
+constexpr BarLook kLook{.background = "leftBar",
                         .over = "leftbarO",
                         .down = "leftbarD",
                         .title = "Mouse Properties",
@@ -30,12 +31,14 @@ constexpr BarLook kLook{.inside = kInside,
                         .open = {"leftmini1", "leftmini2"},
                         .closed = {"leftmini3", "leftmini4"}};
 
-constexpr int kDpiTag = 0x2001;
-constexpr ButtonRow kDpiButton{"btnDPI", {97, 358, 101, 27}, kDpiTag, "", "CPI value"};
-
-/// By code; the blank belongs to the text.
+/// The blank belongs to the text.
 constexpr const char *kDpiTexts[] = {" 800", " 1600", " 2400", " 3200", " 4000", " 5000"};
-constexpr int kDpiListTag = 0x4000;
+constexpr int kDpiTag = 0x2001;
+constexpr LevelChoice::Look kDpi{.button = {"btnDPI", {97, 358, 101, 27}, kDpiTag, "", "CPI value"},
+                                 .listTag = 0x4000,
+                                 .texts = kDpiTexts,
+                                 .field = &ProfileInfo::DPI_VALUE,
+                                 .logLine = "IDC_LISTBOX_DPI:%d"};
 
 constexpr int kHorizontal = 1;
 constexpr int kVertical = 2;
@@ -45,10 +48,7 @@ constexpr double kMostLevel = 10;
 /// A bar and the level of the profile that it edits.
 struct LevelRow
 {
-    const char *name = "";        ///< the object's
-    const char *description = ""; ///< what it is called for assistive technology
-    UpRect frame;
-    int tag = 0;
+    ButtonRow bar;
     int dirStyle = kHorizontal;
     std::uint32_t ProfileInfo::*field = nullptr;
     const char *logLine = "";
@@ -56,40 +56,28 @@ struct LevelRow
 
 // clang-format off
 constexpr LevelRow kLevels[] = {
-    {"dbClickSpeedBar", "Double-click speed", {42, 303, 124, 16}, 0x3000, kHorizontal,
+    {{"dbClickSpeedBar", {42, 303, 124, 16}, 0x3000, "", "Double-click speed"}, kHorizontal,
      &ProfileInfo::DBCLICK_SPEED,  "IDC_PROGRESSBAR_DBCLICK"},
-    {"scrollSpeedBar",  "Scroll speed",       {42, 260, 124, 16}, 0x3001, kHorizontal,
+    {{"scrollSpeedBar",  {42, 260, 124, 16}, 0x3001, "", "Scroll speed"}, kHorizontal,
      &ProfileInfo::SCROLL_SPEED,   "IDC_PROGRESSBAR_SCROLLSPEED"},
-    {"pointSpeedBar",   "Pointer speed",      {42, 222, 124, 16}, 0x3002, kHorizontal,
+    {{"pointSpeedBar",   {42, 222, 124, 16}, 0x3002, "", "Pointer speed"}, kHorizontal,
      &ProfileInfo::SENSITIVITY,    "IDC_PROGRESSBAR_POINTSPEED"},
-    {"advSensXBar",     "Sensitivity, X axis", {70, 62, 16, 112}, 0x3003, kVertical,
+    {{"advSensXBar",     {70, 62, 16, 112},  0x3003, "", "Sensitivity, X axis"}, kVertical,
      &ProfileInfo::ADVANCED_SEN_X, "IDC_PROGRESSBAR_ADVSENSX"},
-    {"advSensYBar",     "Sensitivity, Y axis", {130, 62, 16, 112}, 0x3004, kVertical,
+    {{"advSensYBar",     {130, 62, 16, 112}, 0x3004, "", "Sensitivity, Y axis"}, kVertical,
      &ProfileInfo::ADVANCED_SEN_Y, "IDC_PROGRESSBAR_ADVSENSY"},
 };
 // clang-format on
 
 consteval bool tableHolds()
 {
-    int tag = kLevels[0].tag;
-    return kInside.holds(kDpiButton.frame) &&
+    int tag = kLevels[0].bar.tag;
+    return kInside.holds(kDpi.button.frame) &&
            std::ranges::all_of(kLevels, [&tag](const LevelRow &row) {
-               return row.tag == tag++ && kInside.holds(row.frame);
+               return row.bar.tag == tag++ && kInside.holds(row.bar.frame);
            });
 }
 static_assert(tableHolds(), "controls inside the bar, levels in the order of their tags");
-
-pngProgressBar *makeBar(const LevelRow &row, const Faces &faces, View &parent)
-{
-    auto *const bar = new pngProgressBar(&parent, row.frame);
-    bar->setObjectName(QLatin1String(row.name));
-    bar->setAccessibleName(QLatin1String(row.description));
-    bar->setTag(row.tag);
-    bar->setDirStyle(row.dirStyle);
-    bar->setposRange(kLeastLevel, kMostLevel);
-    setFaces(*bar, faces, row.frame);
-    return bar;
-}
 
 } // namespace
 
@@ -99,11 +87,13 @@ void LeftView::awakeFromNib()
 {
     static_assert(std::size(kLevels) == kBarCount);
     const Faces skin = faces();
-    btnDPI = makeButton(&controls(), kDpiButton, skin);
-    btnDPI->setAction({this, &LeftView::buttonAction});
-    m_list.attachTo(*btnDPI);
+    View &controls = addControls(kInside);
+    m_dpi = LevelChoice(kDpi, controls, skin);
+    m_dpi.button().setAction({this, &LeftView::buttonAction});
+    m_list.attachTo(m_dpi.button());
     for (std::size_t i = 0; i < kBarCount; ++i) {
-        m_bars[i] = makeBar(kLevels[i], skin, controls());
+        const LevelRow &row = kLevels[i];
+        m_bars[i] = makeBar(&controls, row.bar, row.dirStyle, kLeastLevel, kMostLevel, skin);
         m_bars[i]->setChangeAction({this, &LeftView::progessbarAction});
     }
     BarView::awakeFromNib();
@@ -119,8 +109,7 @@ void LeftView::InitSetting()
 
 void LeftView::SetDpiCaption(std::uint32_t code)
 {
-    if (code < std::size(kDpiTexts))
-        btnDPI->setCaptionText(QLatin1String(kDpiTexts[code]));
+    m_dpi.show(code);
 }
 
 void LeftView::buttonAction(HoverButton *sender)
@@ -132,7 +121,8 @@ void LeftView::buttonAction(HoverButton *sender)
 
 void LeftView::progessbarAction(pngProgressBar *sender)
 {
-    const auto *const row = std::ranges::find(kLevels, sender->tag(), &LevelRow::tag);
+    const auto *const row = std::ranges::find(kLevels, sender->tag(),
+                                              [](const LevelRow &level) { return level.bar.tag; });
     if (row != std::end(kLevels)) {
         systemLog("%s", row->logLine);
         CurrentProfile().*row->field = static_cast<std::uint32_t>(sender->getPos());
@@ -142,27 +132,13 @@ void LeftView::progessbarAction(pngProgressBar *sender)
 
 void LeftView::DisplayListBox()
 {
-    if (!m_list.mayOpen())
-        return;
-    m_list.open(*btnDPI,
-                {.title = "CPI Value",
-                 .tag = kDpiListTag,
-                 .texts = kDpiTexts,
-                 .selected = static_cast<int>(CurrentProfile().DPI_VALUE),
-                 .changeAction = {this, &LeftView::ListboxAction}},
-                {this, &LeftView::CloseListBox});
+    m_dpi.open(m_list, {this, &LeftView::ListboxAction}, {this, &LeftView::CloseListBox});
 }
 
 void LeftView::ListboxAction(pngListBox *sender)
 {
-    const int row = sender->getcursel();
-    if (sender->tag() == kDpiListTag) {
-        systemLog("IDC_LISTBOX_DPI:%d", row);
-        // Return in a list without a selection chooses nothing.
-        if (row >= 0) {
-            CurrentProfile().DPI_VALUE = static_cast<std::uint32_t>(row);
-            SetDpiCaption(CurrentProfile().DPI_VALUE);
-        }
+    if (sender->tag() == m_dpi.listTag()) {
+        m_dpi.take(*sender);
         m_list.chosen();
     }
     controller().setMainViewApplyStatus(true);
@@ -175,6 +151,7 @@ void LeftView::CloseListBox(PopupContent * /*sender*/)
 
 void LeftView::toggleBar()
 {
+    m_list.close(*window());
     InitSetting();
     controller().toggleLeftBar();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/popuplist.h"
 #include "panels/barview.h"
+#include "panels/levelchoice.h"
 
 #include <array>
 
@@ -37,7 +37,7 @@ protected:
 private:
     static constexpr std::size_t kBarCount = 5;
 
-    HoverButton *btnDPI = nullptr;
+    LevelChoice m_dpi;
     std::array<pngProgressBar *, kBarCount> m_bars{}; ///< in the order of their tags
     PopupList m_list;
 };

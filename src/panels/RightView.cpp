@@ -11,8 +11,7 @@ namespace {
 constexpr UpPoint kToggleClosed{0, 133};
 constexpr UpPoint kToggleOpen{185, 133};
 
-constexpr BarLook kLook{.inside = {},
-                        .background = "rightN",
+constexpr BarLook kLook{.background = "rightN",
                         .title = "Button Functions",
                         .titleRect = {28, 426, 130, 20},
                         .toggleTag = 0x1000,

@@ -13,11 +13,8 @@ BarView::BarView(const BarLook &look, QWidget *parent)
     : View(parent),
       m_look(look),
       BKImage(SkinImage::named(look.background)),
-      m_controls(new View(this)),
       btnToggle(new HoverButton(this, look.toggleRect))
 {
-    m_controls->setFrame(look.inside);
-    m_controls->hide();
     btnToggle->setObjectName(QStringLiteral("btnToggle"));
     btnToggle->setAccessibleName(QLatin1String(look.toggleDescription));
     btnToggle->setTag(look.toggleTag);
@@ -35,15 +32,27 @@ Faces BarView::faces() const
     return {BKImage, SkinImage::named(m_look.over), SkinImage::named(m_look.down)};
 }
 
-bool BarView::isShut() const
+View &BarView::addControls(UpRect inside)
 {
-    return width() <= kBarHandle || height() <= kBarHandle;
+    m_controls = new View(this);
+    m_controls->setFrame(inside);
+    m_controls->lower(); // the handle lies over it
+    showControls();
+    return *m_controls;
+}
+
+void BarView::showControls()
+{
+    if (!m_controls)
+        return;
+    const bool isShut = width() <= kBarHandle || height() <= kBarHandle;
+    isShut ? hideQuietly(*m_controls) : m_controls->show();
 }
 
 void BarView::resizeEvent(QResizeEvent *event)
 {
     View::resizeEvent(event);
-    isShut() ? hideQuietly(*m_controls) : m_controls->show();
+    showControls();
 }
 
 void BarView::buttonAction(HoverButton *sender)

@@ -22,7 +22,6 @@ struct BarLook
         UpRect rect;
     };
 
-    UpRect inside; ///< the open bar
     const char *background = "";
     const char *over = ""; ///< the picture of its controls under the pointer
     const char *down = ""; ///< and pressed
@@ -60,9 +59,9 @@ protected:
     void drawRect(Canvas &canvas) override;
     void resizeEvent(QResizeEvent *event) override;
 
-    /// Where the bar's controls belong, in the bar's own coordinates, so that those of a shut bar
-    /// are hidden and the tab key passes them by.
-    View &controls() const { return *m_controls; }
+    /// Makes the view that the bar's controls belong in, `inside` the open bar: in a shut one they
+    /// are hidden, and the tab key passes them by.
+    View &addControls(UpRect inside);
     /// The bar in each state of its controls, whose faces are cut from these pictures.
     Faces faces() const;
 
@@ -82,11 +81,11 @@ protected:
 private:
     void setToggleImages(const BarLook::Handle &handle);
 
-    bool isShut() const;
+    void showControls();
 
     const BarLook &m_look;
     SkinImage BKImage;
-    View *m_controls;
+    View *m_controls = nullptr;
     HoverButton *btnToggle;
     windowcontroll *pWindowControll = nullptr;
 };

@@ -10,6 +10,11 @@ UpRect swatch(UpRect bounds)
 
 } // namespace
 
+QString colorInWords(std::uint32_t red, std::uint32_t green, std::uint32_t blue)
+{
+    return QStringLiteral("red %1, green %2, blue %3").arg(red).arg(green).arg(blue);
+}
+
 colorbutton::colorbutton(QWidget *parent, UpRect frame) : ViewOf(parent)
 {
     setFrame(frame);
@@ -23,8 +28,7 @@ void colorbutton::setFillColor(std::uint32_t Red, std::uint32_t Green, std::uint
     _red = Red;
     _green = Green;
     _blue = Blue;
-    setAccessibleDescription(
-        QStringLiteral("red %1, green %2, blue %3").arg(Red).arg(Green).arg(Blue));
+    setAccessibleDescription(colorInWords(Red, Green, Blue));
     update();
 }
 

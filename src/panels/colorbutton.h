@@ -6,6 +6,11 @@
 
 #include <QtWidgets/QAbstractButton>
 
+#include <cstdint>
+
+/// A colour in words, for assistive technology; levels as they are.
+QString colorInWords(std::uint32_t red, std::uint32_t green, std::uint32_t blue);
+
 /// A button that shows a colour in a swatch, with one picture for rest and one for under the
 /// pointer. It acts when it is pressed, not when it is released.
 class colorbutton : public ViewOf<QAbstractButton>

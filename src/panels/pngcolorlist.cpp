@@ -1,7 +1,10 @@
 #include "panels/pngcolorlist.h"
 
+#include "panels/colorbutton.h"
+
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -35,26 +38,40 @@ void pngcolorlist::drawRect(Canvas &canvas)
     canvas.outline(frame(kCrossSize - 2), Qt::black);
 }
 
-/// The picture keeps its clicks to itself.
-void pngcolorlist::mouseDown(const ViewMouseEvent & /*event*/) {}
+void pngcolorlist::mouseDown(const ViewMouseEvent &event)
+{
+    // The second press of a double click on the button that has opened the picture is no pick.
+    m_isPressed = event.clickCount == 1;
+}
+
+/// The picture is no background to drag its window by.
 void pngcolorlist::mouseDragged(const ViewMouseEvent & /*event*/) {}
 
 void pngcolorlist::mouseUp(const ViewMouseEvent &event)
 {
     PopupContent::mouseUp(event);
-    pick(event.event->position());
+    // The picture lies at the lower left corner.
+    const QPoint corner(0, height() - colorImage.size().height());
+    if (std::exchange(m_isPressed, false))
+        pick(event.event->position() - corner);
 }
 
-/// `place` in points, y downwards; outside the picture there is nothing to pick.
-void pngcolorlist::pick(QPointF place)
+/// The pixel at a place of the picture, in points from its upper left corner; transparent where
+/// there is none.
+QRgb pngcolorlist::colourAt(QPointF place) const
 {
     const QPointF pixel = place * colorImage.pixmap().devicePixelRatio();
     const QPoint at(static_cast<int>(std::floor(pixel.x())),
                     static_cast<int>(std::floor(pixel.y())));
-    if (!m_pixels.valid(at))
+    return m_pixels.valid(at) ? m_pixels.pixel(at) : qRgba(0, 0, 0, 0);
+}
+
+void pngcolorlist::pick(QPointF place)
+{
+    const QRgb colour = colourAt(place);
+    if (qAlpha(colour) == 0)
         return;
     // The picture's own levels are the components times 255.
-    const QRgb colour = m_pixels.pixel(at);
     _red = static_cast<std::uint32_t>(qRed(colour));
     _green = static_cast<std::uint32_t>(qGreen(colour));
     _blue = static_cast<std::uint32_t>(qBlue(colour));
@@ -75,7 +92,7 @@ void pngcolorlist::keyDown(QKeyEvent *event)
         return moveCross({0, step});
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return pick(m_cross);
+        return m_showsCross ? pick(m_cross) : moveCross({});
     default:
         return PopupContent::keyDown(event);
     }
@@ -83,10 +100,14 @@ void pngcolorlist::keyDown(QKeyEvent *event)
 
 void pngcolorlist::moveCross(QPoint by)
 {
-    const QPoint to = m_cross + by;
     const QSize size = colorImage.size();
+    const QPoint to = m_showsCross ? m_cross + by : m_cross;
     m_cross = {std::clamp(to.x(), 0, std::max(0, size.width() - 1)),
                std::clamp(to.y(), 0, std::max(0, size.height() - 1))};
     m_showsCross = true;
+    const QRgb colour = colourAt(m_cross);
+    setAccessibleDescription(colorInWords(static_cast<std::uint32_t>(qRed(colour)),
+                                          static_cast<std::uint32_t>(qGreen(colour)),
+                                          static_cast<std::uint32_t>(qBlue(colour))));
     update();
 }

@@ -28,6 +28,7 @@ protected:
     void keyDown(QKeyEvent *event) override;
 
 private:
+    QRgb colourAt(QPointF place) const;
     void pick(QPointF place);
     void moveCross(QPoint by);
 
@@ -37,6 +38,7 @@ private:
     Action<pngcolorlist *> changeAction;
     SkinImage colorImage;
     QImage m_pixels;           ///< of colorImage
-    QPoint m_cross;            ///< y downwards, like the picture's rows
-    bool m_showsCross = false; ///< once a key has moved it
+    bool m_isPressed = false;  ///< by the first press of a click
+    QPoint m_cross;            ///< from the picture's upper left corner, y downwards
+    bool m_showsCross = false; ///< once a key has been used
 };
