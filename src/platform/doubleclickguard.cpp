@@ -8,23 +8,21 @@ void DoubleClickGuard::arm(quint64 clickedAt)
 {
     m_place = QCursor::pos();
     m_clickedAt = clickedAt;
-    m_keepsRelease = false;
     qApp->installEventFilter(this);
 }
 
 bool DoubleClickGuard::eventFilter(QObject *watched, QEvent *event)
 {
+    const bool press = event->type() == QEvent::MouseButtonPress;
+    const bool doubleClick = event->type() == QEvent::MouseButtonDblClick;
     // The window below sees the event first, before any view in it.
-    if (!watched->isWindowType())
+    if ((!press && !doubleClick) || !watched->isWindowType())
         return false;
+    const bool second = isSecondPress(*static_cast<QMouseEvent *>(event));
     // The toolkit tells of a second press twice: as a press, then as a double click.
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
-        m_keepsRelease = isSecondPress(*static_cast<QMouseEvent *>(event));
-    else if (event->type() != QEvent::MouseButtonRelease || !m_keepsRelease)
-        return false;
-    if (!m_keepsRelease || event->type() == QEvent::MouseButtonRelease)
+    if (doubleClick || !second)
         qApp->removeEventFilter(this);
-    return m_keepsRelease;
+    return second;
 }
 
 bool DoubleClickGuard::isSecondPress(const QMouseEvent &event) const

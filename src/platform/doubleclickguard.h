@@ -12,7 +12,7 @@ class DoubleClickGuard : public QObject
 public:
     /// Starts the guard at the pointer's place; `clickedAt` is the time stamp of the click's event,
     /// in milliseconds. The next press anywhere ends it; when it comes within the desktop's
-    /// double-click time, at the same place, it and its release reach nobody.
+    /// double-click time, at the same place, it reaches nobody.
     void arm(quint64 clickedAt);
 
 protected:
@@ -23,5 +23,4 @@ private:
 
     QPoint m_place;
     quint64 m_clickedAt = 0;
-    bool m_keepsRelease = false; ///< of a second press
 };
