@@ -141,11 +141,16 @@ bool custumwindow::enterByTab(Qt::FocusReason reason)
     const std::vector<QWidget *> stops = tabStops();
     if (stops.empty())
         return false;
-    (reason == Qt::TabFocusReason ? stops.front() : stops.back())->setFocus(Qt::OtherFocusReason);
+    makeKeyFor(reason == Qt::TabFocusReason ? *stops.front() : *stops.back(), reason);
+    return true;
+}
+
+void custumwindow::makeKeyFor(QWidget &control, Qt::FocusReason reason)
+{
+    control.setFocus(Qt::OtherFocusReason);
     // Why it has the keyboard can be told it only once the window is active.
     m_entry = reason;
     makeKeyAndOrderFront(*this);
-    return true;
 }
 
 bool custumwindow::event(QEvent *event)

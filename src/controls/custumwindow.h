@@ -45,6 +45,9 @@ public:
     /// first. Without them it stays within the window.
     void setTabNeighbours(custumwindow *previous, custumwindow *next);
 
+    /// Brings the window to the front and gives the keyboard to `control` in it, for `reason`.
+    void makeKeyFor(QWidget &control, Qt::FocusReason reason);
+
     /// Puts the window into the middle of its screen, or of its owner's.
     void center();
     /// Puts the window over the middle of the window `other`, as far as its screen allows.
@@ -68,7 +71,7 @@ private:
     QPointer<custumwindow> m_dragMoves;
     QPointer<custumwindow> m_tabPrevious;
     QPointer<custumwindow> m_tabNext;
-    std::optional<Qt::FocusReason> m_entry; ///< the tab key's, while the window becomes active
+    std::optional<Qt::FocusReason> m_entry; ///< why it has the keyboard, while it becomes active
     UpPoint m_initialLocation;              ///< of the pointer in the window at the last press
     Action<> m_closeRequest;
 };

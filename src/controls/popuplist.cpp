@@ -104,8 +104,7 @@ void PopupList::open(const QWidget &button, const Content &content,
     pListboxView = content.view;
     pListboxView->setAccessibleName(QLatin1String(content.title));
     pListbox->setContentView(pListboxView);
-    makeKeyAndOrderFront(*pListbox);
-    pListboxView->setFocus(content.reason);
+    pListbox->makeKeyFor(*pListboxView, content.reason);
     m_closeAction = closeAction;
     pListboxView->observeWindowKeyChangeStart(closeAction);
     bListboxPresent = true;
@@ -148,6 +147,6 @@ void PopupList::giveKeyboardTo(QWidget &keyWindow) const
     const auto isOther = [this](const QWidget *window) { return isOtherPopup(window, pListbox); };
     if (std::ranges::any_of(QApplication::topLevelWidgets(), isOther))
         return;
-    const bool closedByDesktop = pListbox && !pListbox->isVisible();
+    const bool closedByDesktop = pListbox && pListbox->isHidden();
     closedByDesktop ? keyWindow.activateWindow() : makeKeyWindow(keyWindow);
 }

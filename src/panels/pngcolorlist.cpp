@@ -52,8 +52,9 @@ void pngcolorlist::mouseUp(const ViewMouseEvent &event)
     PopupContent::mouseUp(event);
     // The picture lies at the lower left corner.
     const QPoint corner(0, height() - colorImage.size().height());
+    // The toolkit rounds the place in the view; the one in the window has the fractions of a point.
     if (std::exchange(m_isPressed, false))
-        pick(event.event->position() - corner);
+        pick(mapFrom(window(), event.event->scenePosition()) - corner);
 }
 
 /// The pixel at a place of the picture, in points from its upper left corner; transparent where

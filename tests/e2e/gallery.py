@@ -3,23 +3,26 @@
 import plistlib
 import signal
 
+from lightingbars import (BOTTOM_BAR, COLOR, CPI, INTENSITY, LEFT_BAR, PULSATION, TITLES,
+                          Illumination, MouseProperties)
 from macroeditor import (COPY_PASTE, NO_DELAY, RECORD_DELAY, TEXT, DeletionWarning,
                          click_list_button, edit_macro, new_macro)
 from macrokeys import MOST_EVENTS, taps
 from settingsfile import changed, factory_values, rich_settings
-from sidepanels import CPI, HANDLE, MACROS, OPEN_SIZE, PROFILES, RIGHT_BAR, TREE, SidePanels
+from sidepanels import (CPI as CPI_PANEL, HANDLE, MACROS, OPEN_SIZE, PROFILES, RIGHT_BAR, TREE,
+                        SidePanels)
 from stage import LIST_TITLE, MAIN_TITLE, Stage, wait_for
 
-# On which scale the pictures are taken, with a screen that has room for all bars.
-SCREENS = {1: "1280x1024", 2: "2400x1800"}
-# What the bars reach out of the main window when they are open: left, right, below.
-MARGINS = (202, 200, 101)
-# Each bar's title, the place of its handle from the main window's upper left corner, its open size.
-BARS = (("Mouse Properties", (-8, 320), (202, 452)), (RIGHT_BAR, HANDLE, OPEN_SIZE),
-        ("Illumination Settings", (327, 648), (466, 101)))
+# On which scale the pictures are taken, with a screen that has room for all bars and their lists.
+SCREENS = {1: "1280x1024", 2: "2400x2000"}
+# What the open bars and their lists reach out of the main window: left, right, below.
+MARGINS = (202, 200, 169)
+BARS = LEFT_BAR, (RIGHT_BAR, HANDLE, OPEN_SIZE), BOTTOM_BAR
+LISTS = {"list-cpi": CPI, "list-intensity": INTENSITY, "list-pulsation": PULSATION,
+         "colours": COLOR}
 # Each panel of the right bar and the row that is chosen in it.
-PANELS = {"panel-cpi": (CPI, 2), "panel-profiles": (PROFILES, 11), "panel-macros": (MACROS, 4),
-          "panel-commands": (TREE, 8)}
+PANELS = {"panel-cpi": (CPI_PANEL, 2), "panel-profiles": (PROFILES, 11),
+          "panel-macros": (MACROS, 4), "panel-commands": (TREE, 8)}
 MENUS = {"menu-profile": ("BtnProfileMenu",), "menu-polling-rate": ("BtnToolsMenu", 0),
          "menu-lift-distance": ("BtnToolsMenu", 1), "menu-help": ("BtnHelpMenu",)}
 PROGRESS = "Applying profile to on-board memory..."
@@ -139,6 +142,15 @@ class Gallery:
             self.stage.open_bar(*bar)
         self.stage.move_to(0, 0)
         self.take("bars")
+        self.take_levels()
+
+    def take_levels(self):
+        left, bottom = MouseProperties(self.stage), Illumination(self.stage)
+        for name, button in LISTS.items():
+            (left if button == CPI else bottom).open_list(button)
+            self.take(name)
+            self.stage.key("Escape")
+            self.stage.wait_for_no_window(TITLES[button])
 
     def take_panels(self):
         self.panels = panels = SidePanels(self.stage)

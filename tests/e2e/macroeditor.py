@@ -3,6 +3,7 @@ and what a player does there."""
 
 import re
 
+from controlwindow import ControlWindow
 from sidepanels import HEIGHTS, MACROS
 from stage import ROOT, control_rectangles, wait_for
 
@@ -35,32 +36,12 @@ def editor_places():
 EDITOR_PLACES = editor_places()
 
 
-class DialogWindow:
-    """A window of the screen and its controls, which are given as (x, y, width, height), y
-    upwards."""
+class DialogWindow(ControlWindow):
+    """One that has the keyboard from its beginning."""
 
     def __init__(self, stage, title, controls):
-        self.stage, self.title, self.controls = stage, title, controls
+        super().__init__(stage, title, controls)
         stage.wait_for_active(title)
-
-    def frame(self):
-        return self.stage.frame(self.title)
-
-    def place(self, name):
-        return self.controls[name]
-
-    def box(self, place):
-        """On the screen, y downwards."""
-        left, top, _, window_height = self.frame()
-        x, y, width, height = (self.stage.scale * length for length in place)
-        return left + x, top + window_height - y - height, width, height
-
-    def click_place(self, place):
-        x, y, width, height = self.box(place)
-        self.stage.click(x + width // 2, y + height // 2)
-
-    def click(self, name):
-        self.click_place(self.place(name))
 
     def close_by(self, name):
         self.click(name)
@@ -91,7 +72,7 @@ class MacroEditor(DialogWindow):
 
     def has_keyboard(self, field):
         """Whether the field's frame is lit, which it is from when every key comes to it."""
-        x, y, width, height = self.box(self.place(field))
+        x, y, width, height = self.box_of(field)
         left = x - self.stage.scale, y + height // 2, 1, 1
         return self.stage.pixels(left) == LIT
 
@@ -115,7 +96,7 @@ class MacroEditor(DialogWindow):
         self.stage.output("xdotool", "type", text)
 
     def scroll_to_end(self):
-        x, y, width, height = self.box(self.place(EVENTS))
+        x, y, width, height = self.box_of(EVENTS)
         self.stage.move_to(x + width // 2, y + height // 2)
         self.stage.output("xdotool", "click", "--repeat", "60", "--delay", "5", "5")
 

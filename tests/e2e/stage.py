@@ -23,7 +23,7 @@ MENU_SEPARATOR_HEIGHT = 3
 def control_rectangles(source):
     """A view's controls by name, as (x, y, width, height), y upwards, from its own table."""
     table = (ROOT / "src" / source).read_text()
-    rows = re.findall(r'\{"(\w+)", \{(\d+), (\d+), (\d+), (\d+)\}', table)
+    rows = re.findall(r'\{"(\w+)", +\{(\d+), (\d+), (\d+), (\d+)\}', table)
     return {name: tuple(map(int, box)) for name, *box in rows}
 
 
@@ -274,8 +274,8 @@ class Stage:
     def click_control(self, name, button=1):
         self.click(*self.middle_of(name), button)
 
-    def click_list_row(self, row):
-        x, y, width, _ = self.frame(LIST_TITLE)
+    def click_list_row(self, row, title=LIST_TITLE):
+        x, y, width, _ = self.frame(title)
         height = self.scale * ROW_HEIGHT
         self.click(x + width // 2, y + row * height + height // 2)
 

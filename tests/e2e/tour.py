@@ -1,6 +1,7 @@
 """Plays the main job on a virtual display with the programs as they are installed: button 5 gets
-"Mouse Button 4", a macro is recorded and put on button 9, both are applied, and the driver process
-takes them. Then takes pictures of everything that the utility shows.
+"Mouse Button 4", a macro is recorded and put on button 9, a CPI step and a colour are chosen, each
+is applied, and the driver process takes it. Then takes pictures of everything that the utility
+shows.
 
 usage: tour.py PROGRAMS TOOLS SCREENSHOTS
        tour.py --put-back             only puts back what a tour that was killed left aside
@@ -17,6 +18,7 @@ import signal
 import sys
 
 from gallery import take_pictures
+from lightingbars import CPI, VIOLET, Illumination, MouseProperties
 from macroeditor import EVENTS, NAME, new_macro
 from macrokeys import stored_events, taps, without_delays
 from sidepanels import MACROS, SidePanels
@@ -27,6 +29,7 @@ KEPT = SETTINGS.with_name("KT7R4Setting.xml.before-tour")
 MOUSE_BUTTON_4_ROW = 3
 FIRST_MACRO_CODE = 256
 RECORDED = {"space": 49, "w": 13}
+CPI_3200 = 3
 INTERRUPTIONS = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT)
 
 
@@ -112,6 +115,18 @@ def record_and_apply(stage, utility, pictures):
     stage.click_control("ButtonApply")
 
 
+def choose_and_apply(stage, pictures):
+    left, bottom = MouseProperties(stage), Illumination(stage)
+    for bar in left, bottom:
+        bar.open()
+    left.choose(CPI, CPI_3200)
+    colour = bottom.pick(VIOLET)
+    wait_for(lambda: bottom.shown_colour() == colour, "the chosen colour")
+    stage.screenshot(pictures / "8-chosen.png")
+    stage.click_control("ButtonApply")
+    return colour
+
+
 def first_profile():
     return plistlib.loads(SETTINGS.read_bytes())["PROFILE_1"]
 
@@ -142,6 +157,13 @@ def play_main_job(programs, pictures):
         stage.screenshot(pictures / "7-macro-applied.png")
         keys = without_delays(stored_events(first_profile()["MACRO_1"]["KEYMAP"]))
         check(keys, taps(*RECORDED.values()), 'keys of "MACRO_1"')
+        say(f"the driver process took: {taken}")
+        say("a CPI step and a colour from their bars, Apply")
+        colour = choose_and_apply(stage, pictures)
+        taken = driver.wait_for_line(f"DPI_VALUE={CPI_3200}")
+        stage.screenshot(pictures / "9-choices-applied.png")
+        check(first_profile()["DPI_VALUE"], CPI_3200, '"DPI_VALUE" of "PROFILE_1"')
+        check(tuple(first_profile()[f"LED_COLOR_{part}"] for part in "RGB"), colour, "colour")
         say(f"the driver process took: {taken}")
 
 
