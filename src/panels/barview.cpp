@@ -47,6 +47,9 @@ void BarView::showControls()
         return;
     const bool isShut = width() <= kBarHandle || height() <= kBarHandle;
     isShut ? hideQuietly(*m_controls) : m_controls->show();
+    // The second click of a double click on the handle would meet whatever slides past below it.
+    const bool isWhole = rect().contains(m_controls->geometry());
+    m_controls->setAttribute(Qt::WA_TransparentForMouseEvents, !isWhole);
 }
 
 void BarView::resizeEvent(QResizeEvent *event)

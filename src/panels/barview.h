@@ -60,7 +60,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
     /// Makes the view that the bar's controls belong in, `inside` the open bar: in a shut one they
-    /// are hidden, and the tab key passes them by.
+    /// are hidden, and the tab key passes them by; in one that slides, clicks pass them by.
     View &addControls(UpRect inside);
     /// The bar in each state of its controls, whose faces are cut from these pictures.
     Faces faces() const;

@@ -1,7 +1,5 @@
-#include "controls/pngProgressBar.h"
+#include "progressbarstage.h"
 #include "progressbarstyles.h"
-#include "support/pointer.h"
-#include "support/receiver.h"
 #include "support/suite.h"
 
 #include <QtGui/QAccessible>
@@ -22,37 +20,11 @@ private Q_SLOTS:
     void everyPressAndMoveSendsTheAction();
     void onlyTheLeftButtonMovesTheBar();
     void setPosSendsNothing();
-    void keysMoveTheBar_data();
-    void keysMoveTheBar();
-    void theWheelMovesTheBar();
     void aFixedBarIgnoresTheUser();
     void aFixedBarIsNotInTheTabOrder();
     void assistiveTechnologyMovesTheBarWhereTheUserMay_data();
     void assistiveTechnologyMovesTheBarWhereTheUserMay();
 };
-
-namespace {
-
-using Changes = Receiver<pngProgressBar>;
-
-/// A shown window with one bar in it.
-struct BarStage
-{
-    explicit BarStage(QSize size) : bar(&window, {30, 40, size.width(), size.height()})
-    {
-        window.resize(size + QSize(80, 80));
-        bar.setChangeAction({&changes, &Changes::receive});
-        window.show();
-        if (!QTest::qWaitForWindowActive(&window))
-            qFatal("the window does not come up");
-    }
-
-    View window;
-    pngProgressBar bar;
-    Changes changes;
-};
-
-} // namespace
 
 void tst_pngprogressbar::aPositionIsBoundedToTheRange_data()
 {
@@ -199,39 +171,6 @@ void tst_pngprogressbar::setPosSendsNothing()
     stage.bar.setPos(30);
     stage.bar.setposRange(0, 10);
     QCOMPARE(stage.changes.count(), std::size_t{0});
-}
-
-void tst_pngprogressbar::keysMoveTheBar_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<int>("position");
-    QTest::newRow("right") << Qt::Key_Right << 6;
-    QTest::newRow("left") << Qt::Key_Left << 4;
-    QTest::newRow("up") << Qt::Key_Up << 6;
-    QTest::newRow("down") << Qt::Key_Down << 4;
-    QTest::newRow("home") << Qt::Key_Home << 1;
-    QTest::newRow("end") << Qt::Key_End << 10;
-}
-
-void tst_pngprogressbar::keysMoveTheBar()
-{
-    QFETCH(Qt::Key, key);
-    BarStage stage({90, 20});
-    stage.bar.setposRange(1, 10);
-    stage.bar.setPos(5);
-    stage.bar.setFocus();
-    QTest::keyClick(stage.window.windowHandle(), key);
-    QTEST(stage.bar.getPos(), "position");
-    QCOMPARE(stage.changes.senders, std::vector{&stage.bar});
-}
-
-void tst_pngprogressbar::theWheelMovesTheBar()
-{
-    BarStage stage({90, 20});
-    stage.bar.setPos(50);
-    pointer::turnWheel(stage.bar, 120);
-    QVERIFY(stage.bar.getPos() > 50);
-    QCOMPARE(stage.changes.senders, std::vector{&stage.bar});
 }
 
 void tst_pngprogressbar::aFixedBarIgnoresTheUser()

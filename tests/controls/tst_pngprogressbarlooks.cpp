@@ -1,4 +1,4 @@
-#include "controls/pngProgressBar.h"
+#include "progressbarstage.h"
 #include "progressbarstyles.h"
 #include "support/pictures.h"
 #include "support/suite.h"
@@ -12,6 +12,9 @@ private Q_SLOTS:
     void theOverPictureIsUncoveredAsFarAsThePosition_data();
     void theOverPictureIsUncoveredAsFarAsThePosition();
     void theOverPictureIsShownFromItsOwnLowerLeft();
+    void aRangeWithoutExtentUncoversNothing();
+    void theKeyboardsFrameShowsAfterTheTabKeyOnly_data();
+    void theKeyboardsFrameShowsAfterTheTabKeyOnly();
 };
 
 void tst_pngprogressbarlooks::theOverPictureIsUncoveredAsFarAsThePosition_data()
@@ -64,6 +67,51 @@ void tst_pngprogressbarlooks::theOverPictureIsShownFromItsOwnLowerLeft()
     QCOMPARE(extentOf(shown(bar), Qt::yellow), mark);
     bar.setDirStyle(kVertical);
     QCOMPARE(extentOf(shown(bar), Qt::yellow), mark);
+}
+
+void tst_pngprogressbarlooks::aRangeWithoutExtentUncoversNothing()
+{
+    pngProgressBar bar(nullptr, {0, 0, 90, 30});
+    bar.setBKImage(plainPicture(bar.size(), Qt::blue));
+    bar.setOverImage(plainPicture(bar.size(), Qt::red));
+    bar.setposRange(7, 7);
+    QCOMPARE(bar.getPos(), 7);
+    QCOMPARE(extentOf(shown(bar), Qt::blue), bar.rect());
+    QVERIFY(extentOf(shown(bar), Qt::red).isEmpty());
+}
+
+void tst_pngprogressbarlooks::theKeyboardsFrameShowsAfterTheTabKeyOnly_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::newRow("horizontal") << kHorizontal;
+    QTest::newRow("upright") << kVertical;
+}
+
+void tst_pngprogressbarlooks::theKeyboardsFrameShowsAfterTheTabKeyOnly()
+{
+    QFETCH(int, style);
+    BarStage stage({90, 30});
+    stage.bar.setDirStyle(style);
+    stage.bar.setBKImage(plainPicture(stage.bar.size(), Qt::blue));
+    stage.bar.setOverImage(plainPicture(stage.bar.size(), Qt::red));
+    stage.window.setFocusPolicy(Qt::StrongFocus);
+    stage.window.setFocus();
+    QVERIFY(extentOf(shown(stage.bar), kWhite).isEmpty());
+    QTest::keyClick(stage.window.windowHandle(), Qt::Key_Tab);
+    QVERIFY(stage.bar.hasFocus());
+    QImage framed = shown(stage.bar);
+    QCOMPARE(extentOf(framed, kWhite), stage.bar.rect());
+    // A line of one point around the bar.
+    const QRect inside = stage.bar.rect().adjusted(1, 1, -1, -1);
+    QVERIFY(extentOf(framed.copy(inside), kWhite).isEmpty());
+    QPainter(&framed).fillRect(inside, kWhite);
+    QVERIFY(extentOfOther(framed, kWhite).isEmpty());
+
+    stage.window.setFocus();
+    QVERIFY(extentOf(shown(stage.bar), kWhite).isEmpty());
+    pointer::click(stage.bar, {45, 15});
+    QVERIFY(stage.bar.hasFocus());
+    QVERIFY(extentOf(shown(stage.bar), kWhite).isEmpty());
 }
 
 KYR_GUI_TEST(tst_pngprogressbarlooks)

@@ -1,9 +1,11 @@
 #include "popupstage.h"
+#include "support/keyboard.h"
+#include "support/pictures.h"
 #include "support/suite.h"
 
 #include <QtGui/QScreen>
 
-/// A list that opens below a button: where it opens, what it shows, a choice from it.
+/// A list that opens below a button: where it opens and what it shows.
 class tst_popuplist : public QObject
 {
     Q_OBJECT
@@ -16,23 +18,18 @@ private Q_SLOTS:
     void whereTheScreenEndsEarlyAListOpensAboveItsButton();
     void theListShowsItsRows();
     void theListHasTheKeyboard();
+    void aListOpenedByKeyShowsWhereTheKeyboardIs();
     void aRowThatIsNotThereIsNotSelected_data();
     void aRowThatIsNotThereIsNotSelected();
     void anyOtherContentOpensAtItsPlace();
     void whereTheScreenEndsEarlyOtherContentIsMirrored();
-    void aChoiceIsClosedLaterAndOnce();
-    void aChoiceThatLosesTheKeyboardIsClosedOnce();
-    void aListOpenedRightAfterAChoiceStays();
-    void theSecondPressOfADoubleClickReachesNoButton_data();
-    void theSecondPressOfADoubleClickReachesNoButton();
-    void afterAChoiceByKeyEveryPressReachesTheButton();
 };
 
 namespace {
 
 constexpr UpRect kButton{100, 300, 90, 30};
 constexpr UpRect kBelow{100, 200, 90, 100};
-constexpr UpRect kAbove{100, 330, 90, 100};
+constexpr UpRect kAboveButton{100, 330, 90, 100};
 
 /// Moves the window to where the screen ends so far below its button.
 void leaveBelowButton(const PopupStage &stage, int room)
@@ -57,34 +54,6 @@ QWidget &openContent(PopupStage &stage)
     return *content->window();
 }
 
-/// Presses and releases the left button there, `at` being the time of both.
-void pressAndRelease(const PopupStage &stage, QPoint there, quint64 at)
-{
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const bool isPress = type == QEvent::MouseButtonPress;
-        QMouseEvent event(type, stage.window->mapFromGlobal(there), there, Qt::LeftButton,
-                          isPress ? Qt::LeftButton : Qt::NoButton, {});
-        event.setTimestamp(at);
-        QApplication::sendEvent(stage.window->windowHandle(), &event);
-    }
-}
-
-/// A button below the middle row of the list, which counts its clicks.
-class ButtonBelow : public QObject
-{
-public:
-    explicit ButtonBelow(const PopupStage &stage)
-    {
-        button = new HoverButton(stage.window.get(), {20, 90, 97, 60});
-        button->setAction({this, &ButtonBelow::receive});
-        button->show();
-    }
-    void receive(HoverButton * /*sender*/) { ++clicks; }
-
-    HoverButton *button;
-    int clicks = 0;
-};
-
 } // namespace
 
 void tst_popuplist::aWindowOpensAboveWhereOnlyThereIsRoom_data()
@@ -98,12 +67,12 @@ void tst_popuplist::aWindowOpensAboveWhereOnlyThereIsRoom_data()
     row("room on both sides", kBelow, {0, 0, 1000, 800}, kBelow);
     row("only below", kBelow, {0, 0, 1000, 400}, kBelow);
     row("below, just so", kBelow, {0, 200, 1000, 600}, kBelow);
-    row("one point short below", kBelow, {0, 201, 1000, 599}, kAbove);
-    row("above, just so", kBelow, {0, 201, 1000, 229}, kAbove);
+    row("one point short below", kBelow, {0, 201, 1000, 599}, kAboveButton);
+    row("above, just so", kBelow, {0, 201, 1000, 229}, kAboveButton);
     row("one point short on both sides", kBelow, {0, 201, 1000, 228}, kBelow);
-    row("far below the screen", kBelow, {0, 500, 1000, 300}, kAbove);
+    row("far below the screen", kBelow, {0, 500, 1000, 300}, kAboveButton);
     row("beside the screen, room below", kBelow, {400, 0, 1000, 800}, kBelow);
-    row("beside the screen, room above", kBelow, {-400, 250, 300, 550}, kAbove);
+    row("beside the screen, room above", kBelow, {-400, 250, 300, 550}, kAboveButton);
     row("below zero", {100, -100, 90, 100}, {0, -100, 1000, 800}, {100, -100, 90, 100});
     row("with a gap", {110, 195, 90, 100}, {0, 250, 1000, 550}, {110, 335, 90, 100});
     row("a gap that leaves no room", {100, 195, 90, 100}, {0, 200, 1000, 234}, {100, 195, 90, 100});
@@ -174,6 +143,22 @@ void tst_popuplist::theListHasTheKeyboard()
     QCOMPARE(list.getcursel(), 2);
 }
 
+void tst_popuplist::aListOpenedByKeyShowsWhereTheKeyboardIs()
+{
+    PopupStage stage;
+    HoverButton other(stage.window.get(), {150, 150, 97, 27});
+    other.show();
+    const QPoint edge(0, rowPoint(PopupStage::kSelected).y());
+    pointer::click(*stage.button);
+    QVERIFY(shownAt(PopupStage::list(), edge) != kGold);
+    keyboard::press(Qt::Key_Escape);
+    QTRY_VERIFY(PopupStage::hasKeyboard(*stage.window));
+    keyboard::tabTo(other);
+    keyboard::tabTo(*stage.button);
+    keyboard::press(Qt::Key_Space);
+    QCOMPARE(shownAt(PopupStage::list(), edge), kGold);
+}
+
 void tst_popuplist::aRowThatIsNotThereIsNotSelected_data()
 {
     QTest::addColumn<int>("selected");
@@ -211,81 +196,6 @@ void tst_popuplist::whereTheScreenEndsEarlyOtherContentIsMirrored()
     leaveBelowButton(stage, 92); // of 93
     const QPoint above = stage.button->mapToGlobal(QPoint(4, -93));
     QCOMPARE(openContent(stage).geometry(), QRect(above, QSize(118, 96)));
-}
-
-void tst_popuplist::aChoiceIsClosedLaterAndOnce()
-{
-    PopupStage stage;
-    pointer::click(stage.opened(), rowPoint(2));
-    QCOMPARE(stage.chosenRow, 2);
-    QCOMPARE(stage.closingsAtChoice, 0);
-    QTRY_COMPARE(PopupStage::openCount(), 0U);
-    QVERIFY(stage.popup->mayOpen());
-    QTRY_VERIFY(PopupStage::hasKeyboard(*stage.window));
-    QCOMPARE(stage.closings, 1);
-    QCOMPARE(stage.log.lines, std::vector<std::string>{"CloseListBox"});
-}
-
-void tst_popuplist::aChoiceThatLosesTheKeyboardIsClosedOnce()
-{
-    PopupStage stage;
-    clickRowDirectly(stage.opened(), 0);
-    QCOMPARE(stage.closings, 0);
-    stage.activate();
-    QVERIFY(keepsKeyboard(*stage.window));
-    QCOMPARE(stage.closings, 1);
-}
-
-void tst_popuplist::aListOpenedRightAfterAChoiceStays()
-{
-    PopupStage stage;
-    clickRowDirectly(stage.opened(), 0);
-    stage.popup->close(*stage.window);
-    const pngListBox &second = stage.opened();
-    QVERIFY(keepsKeyboard(*second.window()));
-    QCOMPARE(PopupStage::openCount(), 1U);
-    QVERIFY(!stage.popup->mayOpen());
-    QCOMPARE(stage.closings, 0);
-}
-
-void tst_popuplist::theSecondPressOfADoubleClickReachesNoButton_data()
-{
-    QTest::addColumn<int>("since");
-    QTest::addColumn<int>("clicks");
-    QTest::newRow("at once") << 1 << 0;
-    QTest::newRow("just in time") << QApplication::doubleClickInterval() - 1 << 0;
-    QTest::newRow("too late") << QApplication::doubleClickInterval() << 1;
-}
-
-void tst_popuplist::theSecondPressOfADoubleClickReachesNoButton()
-{
-    QFETCH(int, since);
-    PopupStage stage;
-    const ButtonBelow below(stage);
-    pngListBox &list = stage.opened();
-    const QPoint there = list.mapToGlobal(rowPoint(1));
-    QVERIFY(placeOf(*below.button).contains(there));
-    QCursor::setPos(there);
-    clickRowDirectly(list, 1);
-    const quint64 released = list.releasedAt();
-    QTRY_COMPARE(PopupStage::openCount(), 0U);
-    pressAndRelease(stage, there, released + static_cast<quint64>(since));
-    QTEST(below.clicks, "clicks");
-}
-
-void tst_popuplist::afterAChoiceByKeyEveryPressReachesTheButton()
-{
-    PopupStage stage;
-    const ButtonBelow below(stage);
-    const pngListBox &list = stage.opened();
-    const QPoint there = list.mapToGlobal(rowPoint(1));
-    QCursor::setPos(there);
-    QTest::keyClick(pointer::windowOf(list), Qt::Key_Return);
-    QTRY_COMPARE(PopupStage::openCount(), 0U);
-    QCOMPARE(stage.chosenRow, 1);
-    const int hour = 3600 * 1000; // that the desktop runs
-    pressAndRelease(stage, there, hour);
-    QCOMPARE(below.clicks, 1);
 }
 
 KYR_GUI_TEST(tst_popuplist)

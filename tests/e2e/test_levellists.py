@@ -3,6 +3,7 @@ open, what closes them, and who has the keyboard then."""
 
 import unittest
 
+from closewindow import close_window
 from leveltests import CPI_1600, CPI_2400, VIOLET_COLOUR, OpenBars, light
 from lightingbars import (COLOR, CPI, INTENSITY, LEFT, PULSATION, SLIDERS, TITLES, VIOLET, let_pass)
 from stage import MAIN_TITLE, VIEW_HEIGHT, wait_for
@@ -97,6 +98,17 @@ class Lists(OpenLists):
             self.stage.wait_for_window_manager()
             self.assertEqual(self.stage.active_title(), OTHER_TITLE)
             let_pass()
+
+    def test_the_desktop_may_close_them(self):
+        for count, button in enumerate(TITLES, 1):
+            self.bar_of(button).open_list(button)
+            window = int(self.stage.window(TITLES[button]))
+            close_window(self.stage.environment["DISPLAY"], window)
+            self.stage.wait_for_no_window(TITLES[button])
+            self.stage.wait_for_active(self.key_window(button))
+            self.assertEqual(self.closings(), count)
+            let_pass()
+        self.assertFalse(self.apply_changed())
 
     def test_a_double_click_on_a_row_moves_no_slider_below(self):
         self.left.open_list(CPI)

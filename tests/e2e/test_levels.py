@@ -181,6 +181,12 @@ class FineScreen(OpenBars):
                 wait_for(lambda: self.line_colour() == expected, f"a line of {expected}")
         self.assert_profile(**light(VIOLET_COLOUR))
 
+    def test_each_pixel_of_a_point_is_picked(self):
+        for off in (0, 0), (1, 0), (0, 1), (1, 1):
+            colour = self.bottom.pick((70, 12), off)
+            wait_for(lambda: self.line_colour() == colour, f"a line of {colour}")
+        self.assert_profile(**light(colour))
+
     def test_levels_are_set(self):
         self.left.choose(CPI, CPI_1600)
         self.left.click_slider("SENSITIVITY", 6)

@@ -46,12 +46,12 @@ inline void barRows()
         QTest::newRow(known.window) << &known;
 }
 
-/// The program with its bars; slides take 200 ms of the clock's time.
+/// The program with its bars, on that settings file; slides take 200 ms of the clock's time.
 struct BarsStage
 {
     static constexpr int kDuration = 200;
 
-    BarsStage()
+    explicit BarsStage(const QByteArray &file = {}) : program(file)
     {
         animateFor(kDuration);
         // On this platform a shown window takes the keyboard, whatever it asks for.
@@ -94,7 +94,7 @@ struct BarsStage
     AnimationClock clock;
     MainWindowStage program;
 
-private:
+protected:
     template <class Wanted>
     static Wanted &found(const QWidget &parent, const char *name)
     {
