@@ -22,19 +22,29 @@ struct KnownBar
     const char *shutLit = "";
     const char *openFace = "";
     const char *openLit = "";
+    std::span<const UpRect> labels = {}; ///< where something is written beside a control
 };
 
 // clang-format off
+inline constexpr UpRect kLeftLabels[] = {
+    {25, 360, 70, 20},  {30, 320, 150, 15}, {30, 280, 150, 15}, {25, 240, 150, 15},
+    {25, 200, 150, 15}, {65, 180, 40, 15},  {125, 180, 40, 15},
+};
+inline constexpr UpRect kBottomLabels[] = {
+    {20, 56, 125, 15}, {167, 56, 125, 15}, {315, 56, 125, 15},
+};
 inline constexpr KnownBar kKnownBars[] = {
     {"LeftBar", "Mouse Properties", 0x2000,
      {-16, 94, 16, 452}, {-202, 94, 202, 452}, {1, 130, 17, 192}, {1, 130},
-     "leftBar", {70, 430, 130, 20}, "leftmini3", "leftmini4", "leftmini1", "leftmini2"},
+     "leftBar", {70, 430, 130, 20}, "leftmini3", "leftmini4", "leftmini1", "leftmini2",
+     kLeftLabels},
     {"RightBar", "Button Functions", 0x1000,
      {654, 89, 16, 461}, {654, 89, 200, 461}, {0, 133, 15, 195}, {185, 133},
      "rightN", {28, 426, 130, 20}, "rightmini", "rightminiO", "rightmini2", "rightmini2O"},
     {"BottomBar", "Illumination Settings", 4096,
      {94, -16, 466, 16}, {94, -101, 466, 101}, {137, 1, 192, 17}, {137, 1},
-     "bottomBar", {185, 81, 200, 15}, "botmini3", "botmini4", "botmini1", "botmini2"},
+     "bottomBar", {185, 81, 200, 15}, "botmini3", "botmini4", "botmini1", "botmini2",
+     kBottomLabels},
 };
 // clang-format on
 

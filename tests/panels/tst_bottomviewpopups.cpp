@@ -28,6 +28,8 @@ private Q_SLOTS:
     void theColourPictureOpensAtThePress();
     void openingChangesNothing_data() { lightRows(); }
     void openingChangesNothing();
+    void aClickWhileTheBarSlidesOpensNothing_data() { lightRows(); }
+    void aClickWhileTheBarSlidesOpensNothing();
     void theSpaceKeyOpensIt_data() { lightRows(); }
     void theSpaceKeyOpensIt();
 };
@@ -181,6 +183,20 @@ void tst_bottomviewpopups::openingChangesNothing()
     QCOMPARE(std::memcmp(&m_Config, before.get(), sizeof m_Config), 0);
     QVERIFY(!stage.program.applyIsEnabled());
     QCOMPARE(stage.program.log.lines, std::vector<std::string>());
+}
+
+void tst_bottomviewpopups::aClickWhileTheBarSlidesOpensNothing()
+{
+    QFETCH(const KnownLight *, known);
+    LightingStage stage;
+    pointer::click(stage.toggle(kBottomBar));
+    stage.passHalf();
+    const QAbstractButton &button = stage.button(*known);
+    QVERIFY(button.isVisible());
+    pointer::click(button);
+    QVERIFY(openPopups().empty());
+    stage.arrive();
+    stage.openFrom(*known);
 }
 
 void tst_bottomviewpopups::theSpaceKeyOpensIt()

@@ -29,23 +29,13 @@ const QStringList kStops = {
     QStringLiteral("LeftBar/advSensYBar"),     QStringLiteral("RightBar/btnToggle"),
 };
 
-/// Presses the key; where the keyboard is then. A window gets it in its own time.
-QString goOn(Qt::Key key)
-{
-    const QString before = focusPlace();
-    keyboard::press(key);
-    if (!QTest::qWaitFor([&] { return focusPlace() != before; }))
-        return QStringLiteral("stays at ") + before;
-    return focusPlace();
-}
-
 /// From the bar's handle on, as many stops as an open bar makes.
 QStringList stopsFromHandle(const LevelStage &stage)
 {
     keyboard::tabTo(stage.toggle(kLeftBar));
     QStringList stops{focusPlace()};
     while (stops.size() < kStops.size() && stops.last().startsWith(QLatin1String("LeftBar/")))
-        stops << goOn(Qt::Key_Tab);
+        stops << focusPlaceAfter(Qt::Key_Tab);
     return stops;
 }
 
@@ -65,9 +55,9 @@ void tst_leftviewkeyboard::backtabGoesTheSameWayBack()
     keyboard::tabTo(stage.toggle(kKnownBars[1]));
     QStringList stops{focusPlace()};
     while (stops.size() < kStops.size())
-        stops << goOn(Qt::Key_Backtab);
+        stops << focusPlaceAfter(Qt::Key_Backtab);
     QCOMPARE(stops, expected);
-    QVERIFY(goOn(Qt::Key_Backtab).startsWith(QLatin1String("MainWindow/")));
+    QVERIFY(focusPlaceAfter(Qt::Key_Backtab).startsWith(QLatin1String("MainWindow/")));
 }
 
 void tst_leftviewkeyboard::theTabKeyPassesTheControlsOfAShutBar()
@@ -106,7 +96,7 @@ void tst_leftviewkeyboard::aShuttingBarLetsTheKeyboardGo()
     QVERIFY(stage.leftIsKey());
     keyboard::press(Qt::Key_Up);
     QVERIFY(!stage.program.applyIsEnabled());
-    QCOMPARE(goOn(Qt::Key_Tab), kStops.first());
+    QCOMPARE(focusPlaceAfter(Qt::Key_Tab), kStops.first());
 }
 
 void tst_leftviewkeyboard::aClickOnTheHandleLeavesTheKeyboardAtASlider()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/HoverButton.h"
+#include "support/keyboard.h"
 #include "support/pictures.h"
 
 #include <QtWidgets/QApplication>
@@ -10,6 +11,16 @@ inline QString focusPlace()
 {
     const QWidget *const at = QApplication::focusWidget();
     return at ? at->window()->objectName() + QLatin1Char('/') + at->objectName() : QString();
+}
+
+/// Presses the key; where the keyboard is then. A window gets it in its own time.
+inline QString focusPlaceAfter(Qt::Key key)
+{
+    const QString before = focusPlace();
+    keyboard::press(key);
+    if (!QTest::qWaitFor([&] { return focusPlace() != before; }))
+        return QStringLiteral("stays at ") + before;
+    return focusPlace();
 }
 
 /// Whether a button is drawn with the frame that tells that it has the keyboard.
