@@ -19,7 +19,6 @@ private Q_SLOTS:
     void aPressedButtonShowsItsPressedFace();
     void theLabelStandsAboveItsControl_data() { lightRows(); }
     void theLabelStandsAboveItsControl();
-    void besideTheControlsAndTextsTheBarIsItsPicture();
     void aRightClickDoesNothing_data() { lightRows(); }
     void aRightClickDoesNothing();
     void everyControlIsNamedForAssistiveTechnology_data() { lightRows(); }
@@ -133,22 +132,6 @@ void tst_bottomview::theLabelStandsAboveItsControl()
         withText(skin("bottomBar"), QLatin1String(known->label), place, 11, Qt::AlignLeft);
     QCOMPARE(shown(stage.content()).copy(place), expected);
     QVERIFY(expected != partOf("bottomBar", known->labelRect));
-}
-
-void tst_bottomview::besideTheControlsAndTextsTheBarIsItsPicture()
-{
-    const PlainLighting stage;
-    std::vector<UpRect> others{kBottomBar.titleRect, kBottomBar.toggle};
-    for (const KnownLight *known : kKnownLights)
-        others.insert(others.end(), {known->frame, known->labelRect});
-    QImage bar = shown(stage.content());
-    QImage picture = partOf("bottomBar", {0, 0, 466, 101});
-    for (QImage *image : {&bar, &picture}) {
-        QPainter painter(image);
-        for (const UpRect &other : others)
-            painter.fillRect(kOpenBar.down(other), Qt::black);
-    }
-    QCOMPARE(bar, picture);
 }
 
 void tst_bottomview::aRightClickDoesNothing()
