@@ -132,7 +132,8 @@ void PopupList::close(QWidget &keyWindow)
     systemLog("CloseListBox");
     if (pListboxView)
         pListboxView->observeWindowKeyChangeStop();
-    if (QApplication::activeWindow() != pListbox)
+    // The press that takes the keyboard away may have been told before.
+    if (QApplication::activeWindow() != pListbox && !m_isClosingPress)
         m_sinceLost.start();
     // While the list still stands: without it no window of the program would have the keyboard.
     giveKeyboardTo(keyWindow);
