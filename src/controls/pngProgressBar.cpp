@@ -99,7 +99,7 @@ void pngProgressBar::followPointer(const ViewMouseEvent &event)
     changeAction.send(this);
 }
 
-/// The two highest positions of a range from 1 look alike.
+/// In numbers, since the two highest positions of a range from 1 look alike.
 void pngProgressBar::tellPosition(QPoint pointer)
 {
     QToolTip::showText(pointer, QString::number(getPos()), this);
@@ -132,10 +132,11 @@ void pngProgressBar::focusInEvent(QFocusEvent *event)
 
 void pngProgressBar::wheelEvent(QWheelEvent *event)
 {
-    if (!bAllowMouseChangeFlag)
+    const int turn = event->angleDelta().y();
+    if (!bAllowMouseChangeFlag || turn == 0)
         return event->ignore();
     // By itself the toolkit would move as many steps as a text scrolls lines.
-    m_turned += event->angleDelta().y();
+    m_turned += turn;
     const int notches = m_turned / QWheelEvent::DefaultDeltasPerStep;
     m_turned %= QWheelEvent::DefaultDeltasPerStep;
     const QPointer<pngProgressBar> alive(this);

@@ -7,8 +7,9 @@
 #include <QtWidgets/QAbstractSlider>
 
 /// A bar drawn from two pictures, the over picture uncovered as far as the position goes; where the
-/// mouse may change it, a slider. The arrow keys and each notch of the wheel move that by one. A
-/// slider tells its position in numbers when it is moved and when the pointer rests on it.
+/// mouse may change it, a slider. The arrow keys and each notch of the wheel move that by one, Home
+/// and End to its ends; it tells its position in numbers when it is moved and when the pointer
+/// rests on it.
 class pngProgressBar : public ViewOf<QAbstractSlider>
 {
 public:
@@ -24,7 +25,8 @@ public:
     /// Whether the player may change it, with the mouse, the wheel or the keyboard; if not, it
     /// takes no keyboard focus either.
     void setAllowMouseChangeFlag(bool allow);
-    /// Sent with the bar after every change by the user.
+    /// Sent with the bar at every press and move of the pointer on it, also when the position stays
+    /// as it was, and after every change by key or wheel.
     void setChangeAction(const Action<pngProgressBar *> &action) { changeAction = action; }
 
     /// Takes the position, bounded to the range.

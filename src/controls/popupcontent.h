@@ -13,7 +13,8 @@ public:
 
     void setTag(int tag) { _tag = tag; }
     int tag() const { return _tag; }
-    /// The time stamp of the last release of the mouse, in milliseconds; 0 before the first.
+    /// The time stamp of the last release of the left mouse button, in milliseconds; 0 before the
+    /// first.
     quint64 releasedAt() const { return m_releasedAt; }
 
     /// Sends the action with the view when its window stops being the key window.

@@ -9,8 +9,8 @@
 
 namespace {
 
-/// In milliseconds: when a press takes the keyboard from a list, the list's loss is told first, and
-/// the press at most this much later. A player's next press takes longer.
+/// Where the loss of the keyboard is told before the press that causes it, the press is told at
+/// most this much later, in milliseconds. A player's next press takes longer.
 constexpr int kPressDelay = 200;
 
 class PopupWindow final : public custumwindow
@@ -148,6 +148,7 @@ void PopupList::giveKeyboardTo(QWidget &keyWindow) const
     const auto isOther = [this](const QWidget *window) { return isOtherPopup(window, pListbox); };
     if (std::ranges::any_of(QApplication::topLevelWidgets(), isOther))
         return;
+    // When the desktop has closed the list, no window of the program has the keyboard any more.
     const bool closedByDesktop = pListbox && pListbox->isHidden();
     closedByDesktop ? keyWindow.activateWindow() : makeKeyWindow(keyWindow);
 }

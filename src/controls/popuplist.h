@@ -10,8 +10,8 @@
 #include <span>
 
 /// What a view opens below its buttons: a list, or anything else to choose from, in a window of its
-/// own that takes the keyboard and closes on a choice or when another window takes that. One at a
-/// time is open.
+/// own that takes the keyboard and closes on a choice or when it loses the keyboard. A view has one
+/// of these for all its buttons, so that one window at a time is open.
 ///
 /// Where the screen ends too early below the button, the window opens above it.
 class PopupList : public QObject
@@ -72,5 +72,5 @@ private:
 };
 
 /// Where a window that belongs below `button`, at `below`, goes: there, or as far above the button
-/// where only that lies within `visible`.
+/// where only that is neither too low nor too high for `visible`.
 UpRect popupFrame(UpRect button, UpRect below, UpRect visible);

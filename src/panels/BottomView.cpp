@@ -127,7 +127,7 @@ void BottomView::buttonAction(HoverButton *sender)
 
 void BottomView::colorButtonDown(colorbutton * /*sender*/)
 {
-    // It opens while the press is still being handled, so nobody else has told of that yet.
+    // This button acts on its press, before a listener to presses would hear of it.
     m_popup.pressed();
     DisplayColorListbox();
 }

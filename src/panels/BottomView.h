@@ -26,7 +26,7 @@ public:
 
     void buttonAction(HoverButton *sender) override;
 
-    /// Each opens what its button chooses from; nothing while one is open.
+    /// Each opens, below its button, what a player chooses from; nothing while one is open.
     void DisplayIntensityListBox();
     void DisplayPulsationListBox();
     void DisplayColorListbox();

@@ -20,7 +20,7 @@ public:
     void SetDpiCaption(std::uint32_t code);
 
     void buttonAction(HoverButton *sender) override;
-    /// A bar was moved, told apart by its tag.
+    /// A slider was moved, told apart by its tag.
     void progessbarAction(pngProgressBar *sender);
 
     /// Opens the list of CPI steps below its button; nothing while it is open.

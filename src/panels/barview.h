@@ -42,7 +42,7 @@ public:
     /// `look` must outlive the view.
     BarView(const BarLook &look, QWidget *parent);
 
-    /// Builds the view, closed. The controller, which outlives it, is already set.
+    /// Starts with the bar closed. The controller, which outlives it, is already set.
     void awakeFromNib() override;
     void setWindowControll(windowcontroll *controll) { pWindowControll = controll; }
 

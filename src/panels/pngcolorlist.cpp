@@ -32,6 +32,7 @@ void pngcolorlist::drawRect(Canvas &canvas)
     // Black in white: to be seen on any colour.
     const UpPoint middle = UpHost(colorImage.size().height()).up(m_cross);
     const auto frame = [middle](int size) {
+        // A point's own rectangle begins one below its upper edge.
         return UpRect{middle.x - size / 2, middle.y - 1 - size / 2, size, size};
     };
     canvas.outline(frame(kCrossSize), kWhite);

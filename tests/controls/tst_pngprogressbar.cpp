@@ -13,6 +13,7 @@ private Q_SLOTS:
     void aPositionIsBoundedToTheRange_data();
     void aPositionIsBoundedToTheRange();
     void aNewRangeBoundsThePosition();
+    void aMaximumBelowTheMinimumIsTheMinimum();
     void aPressMovesToThePointer_data();
     void aPressMovesToThePointer();
     void draggingFollowsThePointerPastTheEnds_data();
@@ -68,6 +69,15 @@ void tst_pngprogressbar::aNewRangeBoundsThePosition()
     QCOMPARE(bar.getPos(), 100);
     bar.setposRange(0, 64);
     QCOMPARE(bar.getPos(), 64);
+}
+
+void tst_pngprogressbar::aMaximumBelowTheMinimumIsTheMinimum()
+{
+    pngProgressBar bar(nullptr, {0, 0, 90, 18});
+    bar.setposRange(7, 3);
+    bar.setPos(5);
+    QCOMPARE(bar.getPos(), 7);
+    QCOMPARE(bar.maximum(), 7);
 }
 
 void tst_pngprogressbar::aPressMovesToThePointer_data()

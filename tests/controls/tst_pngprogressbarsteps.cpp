@@ -17,6 +17,7 @@ private Q_SLOTS:
     void aNotchOfTheWheelIsAStep();
     void aFinerWheelAddsUp_data();
     void aFinerWheelAddsUp();
+    void aSidewaysTurnGoesOnToWhatIsBehind();
     void aStepPastAnEndIsNone_data();
     void aStepPastAnEndIsNone();
     void aMovingPointerIsToldThePosition();
@@ -118,6 +119,19 @@ void tst_pngprogressbarsteps::aFinerWheelAddsUp()
         positions << stage.bar.getPos();
     }
     QTEST(positions, "positions");
+}
+
+void tst_pngprogressbarsteps::aSidewaysTurnGoesOnToWhatIsBehind()
+{
+    BarStage stage({90, 20});
+    stage.bar.setPos(50);
+    const QPoint at = stage.bar.rect().center();
+    QWheelEvent event(at, stage.bar.mapToGlobal(at), {}, {120, 0}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&stage.bar, &event);
+    QVERIFY(!event.isAccepted());
+    QCOMPARE(stage.bar.getPos(), 50);
+    QCOMPARE(stage.changes.count(), std::size_t{0});
 }
 
 void tst_pngprogressbarsteps::aStepPastAnEndIsNone_data()

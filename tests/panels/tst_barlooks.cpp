@@ -18,6 +18,8 @@ private Q_SLOTS:
     void theTitleStandsOnTheOpenBar();
     void theHandleTellsWhetherTheBarIsOpen_data() { barRows(); }
     void theHandleTellsWhetherTheBarIsOpen();
+    void theHandleShowsThatTheDesktopHasShutTheBar_data() { barRows(); }
+    void theHandleShowsThatTheDesktopHasShutTheBar();
     void theHandleLightsUpUnderThePointer_data() { barRows(); }
     void theHandleLightsUpUnderThePointer();
     void theHandleLightsUpWhilePressed_data() { barRows(); }
@@ -129,6 +131,18 @@ void tst_barlooks::theHandleTellsWhetherTheBarIsOpen()
     QCOMPARE(shown(toggle), face(toggle, known->openFace));
     stage.clickToggle(*known);
     stage.pointAway(*known);
+    QCOMPARE(shown(toggle), face(toggle, known->shutFace));
+}
+
+void tst_barlooks::theHandleShowsThatTheDesktopHasShutTheBar()
+{
+    QFETCH(const KnownBar *, known);
+    BarsStage stage;
+    stage.clickToggle(*known);
+    stage.pointAway(*known);
+    stage.bar(*known).windowHandle()->close();
+    stage.arrive();
+    HoverButton &toggle = stage.toggle(*known);
     QCOMPARE(shown(toggle), face(toggle, known->shutFace));
 }
 

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void theKeyboardChoosesToo();
     void returnWithoutARowStoresNothing_data() { lightLevelRows(); }
     void returnWithoutARowStoresNothing();
+    void aListOfAnotherNumberOnlyCountsAsAChange_data() { lightLevelRows(); }
+    void aListOfAnotherNumberOnlyCountsAsAChange();
     void aChoiceGoesIntoTheProfileShownByThen_data() { lightLevelRows(); }
     void aChoiceGoesIntoTheProfileShownByThen();
     void applyWritesTheChoiceAndTells_data() { lightLevelRows(); }
@@ -143,6 +145,22 @@ void tst_bottomviewlevels::returnWithoutARowStoresNothing()
     QVERIFY(stage.program.applyIsEnabled()); // whatever was chosen
     QVERIFY(stage.program.log.contains(logged(-1)));
     QTRY_VERIFY(openPopups().empty());
+}
+
+void tst_bottomviewlevels::aListOfAnotherNumberOnlyCountsAsAChange()
+{
+    QFETCH(const KnownLightLevel *, known);
+    const LightLevelStage stage;
+    pngListBox &list = stage.openLevels(*known);
+    const auto before = std::make_unique<ConfigData>(m_Config);
+    list.setTag(4103);
+    pointer::click(list, levelPoint(3));
+    QCoreApplication::processEvents();
+    QCOMPARE(std::memcmp(&m_Config, before.get(), sizeof m_Config), 0);
+    QCOMPARE(stage.caption(known->light), QStringLiteral("Medium"));
+    QCOMPARE(openPopups().size(), std::size_t{1});
+    QCOMPARE(stage.program.log.lines, std::vector<std::string>());
+    QVERIFY(stage.program.applyIsEnabled());
 }
 
 void tst_bottomviewlevels::aChoiceGoesIntoTheProfileShownByThen()

@@ -1,8 +1,11 @@
 #include "panels/colorbutton.h"
+#include "support/paintwatch.h"
 #include "support/pictures.h"
 #include "support/pointer.h"
 #include "support/receiver.h"
 #include "support/suite.h"
+
+#include <functional>
 
 /// The button that shows a colour.
 class tst_colorbutton : public QObject
@@ -20,6 +23,7 @@ private Q_SLOTS:
     void atRestItShowsItsPicture();
     void underThePointerItShowsItsOther();
     void aNewPictureIsShownAtOnce();
+    void whatIsNewIsPaintedByItself();
     void theSwatchLiesOverThePicture_data();
     void theSwatchLiesOverThePicture();
     void aLevelOutsideItsRangeIsTheBrightest_data();
@@ -153,6 +157,25 @@ void tst_colorbutton::aNewPictureIsShownAtOnce()
     stage.point();
     stage.button.setHoverImage(plainPicture(stage.button.size(), Qt::magenta));
     QCOMPARE(stage.ground(), QColor(Qt::magenta));
+}
+
+void tst_colorbutton::whatIsNewIsPaintedByItself()
+{
+    ColorButtonStage stage;
+    const SkinImage picture = plainPicture(stage.button.size(), Qt::cyan);
+    const std::vector<std::function<void()>> changes = {
+        [&] { stage.button.setFillColor(90, 80, 70); },
+        [&] { stage.button.setNormalImage(picture); },
+        [&] { stage.button.setHoverImage(picture); },
+        [&] { stage.point(); },
+        [&] { stage.pointAway(); },
+    };
+    for (const auto &change : changes) {
+        QCoreApplication::processEvents();
+        const PaintWatch watch(stage.button);
+        change();
+        QTRY_VERIFY(watch.hasPainted({60, 15}));
+    }
 }
 
 void tst_colorbutton::theSwatchLiesOverThePicture_data()

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void beforeTheFirstPickItIsBlack();
     void thePickIsMadeAtTheRelease();
     void aDragPicksWhereItEnds();
+    void aDragLeavesTheWindowWhereItIs();
     void aReleaseOutsidePicksNothing_data();
     void aReleaseOutsidePicksNothing();
     void theSecondPressOfADoubleClickIsNoPick();
@@ -83,6 +84,21 @@ void tst_pngcolorlist::aDragPicksWhereItEnds()
     pointer::release(stage.list, {42, 86});
     QCOMPARE(stage.picked(), QColor(Qt::green));
     QCOMPARE(stage.picks.count(), std::size_t{1});
+}
+
+void tst_pngcolorlist::aDragLeavesTheWindowWhereItIs()
+{
+    custumwindow window({100, 100, 118, 96}, nullptr);
+    window.setBCanDragWindow(true);
+    auto *const list = new pngcolorlist(nullptr);
+    window.setContentView(list);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QRect place = window.geometry();
+    pointer::press(*list, {20, 20});
+    pointer::move(*list, {50, 40});
+    pointer::release(*list, {50, 40});
+    QCOMPARE(window.geometry(), place);
 }
 
 void tst_pngcolorlist::aReleaseOutsidePicksNothing_data()

@@ -1,4 +1,5 @@
 #include "colorpicture.h"
+#include "support/paintwatch.h"
 #include "support/pictures.h"
 #include "support/suite.h"
 
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void returnAndEnterPick();
     void theColourUnderTheCrossIsToldToAssistiveTechnology();
     void theCrossIsNotPicked();
+    void aMovedCrossIsPaintedByItself();
     void theCrossShowsOnEveryColour_data() { swatchRows(); }
     void theCrossShowsOnEveryColour();
     void otherKeysMoveAndPickNothing();
@@ -195,6 +197,15 @@ void tst_pngcolorlistkeyboard::theCrossIsNotPicked()
             QCOMPARE(stage.picked(), drawn.pixelColor(x, y));
         }
     }
+}
+
+void tst_pngcolorlistkeyboard::aMovedCrossIsPaintedByItself()
+{
+    ColourStage stage;
+    QCoreApplication::processEvents();
+    const PaintWatch watch(stage.list);
+    stage.key(Qt::Key_Right);
+    QTRY_VERIFY(watch.hasPainted({59, 48}));
 }
 
 void tst_pngcolorlistkeyboard::theCrossShowsOnEveryColour()
