@@ -93,13 +93,14 @@ void BarView::setToggleImages(const BarLook::Handle &handle)
 void BarView::drawRect(Canvas &canvas)
 {
     const UpPoint origin = backgroundOrigin();
-    const UpRect &title = m_look.titleRect;
+    const auto onPicture = [origin](UpRect rect) {
+        return UpRect{rect.x + origin.x, rect.y + origin.y, rect.width, rect.height};
+    };
     canvas.clear();
     canvas.drawImage(BKImage, origin);
-    canvas.drawLine(QLatin1String(m_look.title),
-                    {title.x + origin.x, title.y + origin.y, title.width, title.height}, kGold,
+    canvas.drawLine(QLatin1String(m_look.title), onPicture(m_look.titleRect), kGold,
                     TextAlign::Left, kTitleSize);
     for (const BarLook::Label &label : m_look.labels)
-        canvas.DrawMyTextwithColor(QLatin1String(label.text), label.rect, kGold, TextAlign::Left,
-                                   kLabelSize);
+        canvas.DrawMyTextwithColor(QLatin1String(label.text), onPicture(label.rect), kGold,
+                                   TextAlign::Left, kLabelSize);
 }

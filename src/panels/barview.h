@@ -80,7 +80,6 @@ protected:
 
 private:
     void setToggleImages(const BarLook::Handle &handle);
-
     void showControls();
 
     const BarLook &m_look;

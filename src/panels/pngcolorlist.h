@@ -4,9 +4,9 @@
 
 #include <QtGui/QImage>
 
-/// A picture of colours to pick from: a click takes the colour of the picture's own pixel there.
-/// The arrow keys move a cross over it, with Shift by single points, and Return takes the colour
-/// there.
+/// A picture of colours to pick from: a click takes the colour of the picture's own pixel where it
+/// is released. The arrow keys move a cross over it, with Shift by single points, and Return takes
+/// the colour there; the first of these keys only shows the cross.
 class pngcolorlist : public PopupContent
 {
 public:
