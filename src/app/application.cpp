@@ -10,7 +10,7 @@
 
 #include <QtWidgets/QApplication>
 
-int runKyrGM(int argc, char **argv, const std::string &settingsPath)
+int runKyrGM(int argc, char **argv, const Places &places)
 {
     preferPlacedWindows();
     const QApplication application(argc, argv);
@@ -21,8 +21,9 @@ int runKyrGM(int argc, char **argv, const std::string &settingsPath)
     // Not quit(): that asks the windows to close first, and to the main window closing means to
     // commit, which Cancel must not do.
     DesktopPanels panels;
-    const Interface interface({settingsPath, notifications.get(), [] { QCoreApplication::exit(); },
-                               &panels, openFile, openAddress});
+    const Interface interface({places.settingsPath, notifications.get(),
+                               [] { QCoreApplication::exit(); }, &panels, openFile, openAddress,
+                               places.hosts});
     KyrGMAppDelegate delegate;
     delegate.setWindow(&interface.mainWindow());
     delegate.applicationDidFinishLaunching();

@@ -1,6 +1,13 @@
 #pragma once
 
-#include <string>
+#include "model/regions.h"
 
-/// Runs the utility on a settings file until it is quit; the process's exit code.
-int runKyrGM(int argc, char **argv, const std::string &settingsPath);
+/// What the program's parts outside itself are called.
+struct Places
+{
+    std::string settingsPath;
+    RegionHosts hosts;
+};
+
+/// Runs the utility until it is quit; the process's exit code.
+int runKyrGM(int argc, char **argv, const Places &places);

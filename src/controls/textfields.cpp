@@ -75,6 +75,12 @@ QString TextField::plainText() const
     return isModified() ? withoutControls(text(), {}) : m_loaded;
 }
 
+void TextField::keyReleaseEvent(QKeyEvent *event)
+{
+    Framed::keyReleaseEvent(event);
+    event->ignore();
+}
+
 TextArea::TextArea(QWidget *parent) : Framed(parent)
 {
     setFrameShape(QFrame::NoFrame);

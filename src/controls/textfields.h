@@ -8,7 +8,7 @@
 /// The text fields of the program's dialogs: black on white without a border, grey where nothing
 /// can be typed.
 
-/// A field for one line.
+/// A field for one line. The release of a key is told to the dialog too.
 class TextField : public Framed<QLineEdit>
 {
 public:
@@ -23,6 +23,9 @@ public:
     /// The text: as it was loaded, or once it was edited with every control character, which a
     /// paste may bring, as a blank.
     QString plainText() const;
+
+protected:
+    void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
     void refuseUnacceptable();

@@ -9,13 +9,6 @@ namespace {
 
 constexpr std::uint16_t kInsert = 114;
 
-/// What a log line can show of what a key types.
-char logged(const QString &characters)
-{
-    const char first = characters.isEmpty() ? ' ' : characters.front().toLatin1();
-    return first > ' ' && first <= '~' ? first : ' ';
-}
-
 unsigned numberOf(KeyEventType type)
 {
     return static_cast<unsigned>(type);
@@ -87,8 +80,7 @@ void MacroDisplay::keyUp(const KeyStroke &stroke)
 {
     if (!m_bEnable)
         return;
-    systemLog("Get keyUp Event:keycode:%x,type:%x,%c", stroke.keyCode, numberOf(stroke.type),
-              logged(stroke.characters));
+    logKeyUp(stroke);
     // The release of Insert is left out on purpose.
     if (isFull() || stroke.keyCode == kInsert)
         return;

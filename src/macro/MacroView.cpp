@@ -1,5 +1,6 @@
 #include "macro/MacroView.h"
 
+#include "controls/fieldframe.h"
 #include "controls/skinscrollarea.h"
 #include "macro/limitedLengthFormatter.h"
 #include "platform/keywindow.h"
@@ -16,10 +17,6 @@ constexpr std::uint32_t kMostLoopDigits = 3;
 /// A line of events may reach up to here from the right edge.
 constexpr int kEventsBarWidth = 5;
 
-constexpr QColor kFieldEdge(138, 108, 56);
-constexpr QColor kFieldRim(7, 5, 4);
-constexpr QColor kFieldLit(255, 223, 128);
-
 /// Where there is no place, the control is hidden: by itself one without a size would still be
 /// reached by the tab key.
 void put(const PlacedWidget &control, UpRect place)
@@ -29,11 +26,6 @@ void put(const PlacedWidget &control, UpRect place)
         control.widget->show();
     else
         hideQuietly(*control.widget);
-}
-
-UpRect around(UpRect rect, int margin)
-{
-    return {rect.x - margin, rect.y - margin, rect.width + 2 * margin, rect.height + 2 * margin};
 }
 
 } // namespace
@@ -134,8 +126,11 @@ void MacroView::drawRect(Canvas &canvas)
     drawLabel(canvas, kName, TextAlign::Left);
     for (const ChoiceRow &row : kChoices)
         drawLabel(canvas, row.label, TextAlign::Left);
-    for (std::size_t i = 0; i < kFieldCount; ++i)
-        drawFieldFrame(canvas, i);
+    for (std::size_t i = 0; i < kFieldCount; ++i) {
+        const UpRect place = kFields[i].places.in(m_layout);
+        if (place.width > 0)
+            drawFieldFrame(canvas, place, *m_fields[i].widget);
+    }
 }
 
 void MacroView::drawLabel(Canvas &canvas, const LabelRow &label, TextAlign align) const
@@ -143,17 +138,6 @@ void MacroView::drawLabel(Canvas &canvas, const LabelRow &label, TextAlign align
     const UpRect place = label.places.in(m_layout);
     if (place.width > 0)
         canvas.drawLine(QLatin1String(label.text), place, kGold, align, kLabelSize);
-}
-
-/// Bright around the field that has the keyboard, above all the one that records.
-void MacroView::drawFieldFrame(Canvas &canvas, std::size_t field) const
-{
-    const UpRect place = kFields[field].places.in(m_layout);
-    if (place.width == 0)
-        return;
-    const bool isEdited = isActiveWindow() && keyboardWithin(*m_fields[field].widget);
-    canvas.outline(around(place, 1), isEdited ? kFieldLit : kFieldRim);
-    canvas.outline(around(place, 2), isEdited ? kGold : kFieldEdge);
 }
 
 void MacroView::mouseDown(const ViewMouseEvent &event)

@@ -78,7 +78,6 @@ private:
         return *m_choices[static_cast<std::size_t>(choice)];
     }
     void drawLabel(Canvas &canvas, const macrolayout::LabelRow &label, TextAlign align) const;
-    void drawFieldFrame(Canvas &canvas, std::size_t field) const;
     void takeKeyboard();
 
     // Editing (macroview_editing.cpp)

@@ -7,16 +7,19 @@
 #include "driver/driverlink.h"
 #include "mainview/controltable.h"
 #include "mainview/environment.h"
+#include "mainview/portrait.h"
 #include "model/xmlconfig.h"
+#include "platform/urlloading.h"
 
 #include <span>
 
+class CharacterReading;
 class PopupProgressBar;
 
 /// The content of the main window and the controller of the whole utility: it owns the settings
 /// store, the controls and the only link to the driver process. Profile indices are 0-based here,
 /// 1-based in the driver's messages. User-interface thread only.
-class MainView : public View, public MainContent
+class MainView : public View, public MainContent, private UrlConnectionDelegate
 {
 public:
     MainView(Environment environment, QWidget *parent);
@@ -73,6 +76,9 @@ public:
     void DisplayWarnTwoWindow(const QString &caption, const QString &strDiaplayText);
     /// Shows the versions of program and firmware; returns when that is closed.
     void OpenAbout();
+    /// Shows the dialog that names the current profile's character, or brings it to front; returns
+    /// at once.
+    void DisplayCharInfo();
 
     // Menus (mainview_menus.cpp)
 
@@ -139,13 +145,29 @@ public:
     /// Memory use in units of 128 bytes; 64 are 100 per cent, more is possible.
     std::uint32_t memoryUsage() const { return m_MSMemoryUsage; }
 
+    // Game character (mainview_character.cpp)
+
+    /// What ended the character dialog, by its button's tag: on OK the current profile's character
+    /// is looked up.
+    void CharInfoAction(std::int32_t sender);
+    /// Asks the game service; the answer comes through the event loop. A request that is under way
+    /// goes on and adds to what is received for the new one, on purpose.
+    void openUrl(const std::string &url);
+    /// Fetches a portrait and puts it beside the settings file. The path, which holds whether or
+    /// not the portrait comes to be there; `done` is called when nothing more will come.
+    std::string downloadUrl(const std::string &url, const std::function<void()> &done);
+    /// A class by the service's number; empty for a number without one.
+    static const char *GetKyrClassName(std::int32_t id);
+
     void redraw() override { update(); }
 
 protected:
     void drawRect(Canvas &canvas) override;
+    void mouseDown(const ViewMouseEvent &event) override;
 
 private:
     struct Command;
+    struct CharacterFound;
 
     // Layout
     void buildControls();
@@ -198,6 +220,18 @@ private:
     void ButtonListboxAction(pngListBox *sender);
     void CloseButtonListBox(QWidget *sender);
 
+    // Character badge (mainview_badge.cpp)
+    void DisplayCharacterinfo(Canvas &canvas);
+
+    // Game character
+    void didReceiveResponse(int statusCode) override;
+    void didReceiveData(std::string_view chunk) override;
+    void didFailWithError(const UrlError &error) override;
+    void connectionDidFinishLoading() override;
+    void readReply(const std::shared_ptr<CharacterReading> &reading, std::uint32_t profile);
+    void takeCharacter(const CharacterReading &reading, std::uint32_t profile);
+    void storeCharacter(std::uint32_t profile, const CharacterFound &found);
+
     Environment m_environment;
     driver::DriverLink m_driver;
     xmlconfig m_pXMLconfig;
@@ -218,4 +252,13 @@ private:
     std::uint32_t m_MSMemoryUsage = 0;
     std::uint32_t m_FWNumber = 0;
     std::uint32_t m_LiftDistance = 0;
+
+    QPointer<custumwindow> pCharInfoWindow;
+    bool bDisplayCharinfoWindow = false;
+    std::optional<std::string> receivedData; ///< of the request under way
+    unsigned m_lookups = 0;                  ///< that were answered
+    /// For each profile the number of the lookup that it has its character from.
+    std::array<unsigned, kProfileCount> m_storedLookups{};
+    UrlLoader m_urlLoader;
+    Portrait m_portrait;
 };

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "model/regions.h"
+
+#include <chrono>
 #include <functional>
 #include <string>
 
@@ -18,4 +21,6 @@ struct Environment
     std::function<void(const std::string &path)> openFile = [](const std::string & /*path*/) {};
     std::function<void(const std::string &address)> openAddress =
         [](const std::string & /*address*/) {};
+    RegionHosts hosts = {}; ///< a region without one is not asked
+    std::chrono::milliseconds webTimeout = std::chrono::seconds(60); ///< of a silent host
 };

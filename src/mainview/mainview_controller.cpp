@@ -9,7 +9,11 @@ constexpr int kProfileWithoutApply = 5;
 } // namespace
 
 MainView::MainView(Environment environment, QWidget *parent)
-    : View(parent), m_environment(std::move(environment)), m_driver(*m_environment.notifications)
+    : View(parent),
+      m_environment(std::move(environment)),
+      m_driver(*m_environment.notifications),
+      m_urlLoader(m_environment.webTimeout),
+      m_portrait([this] { update(); })
 {
 }
 

@@ -4,6 +4,8 @@
 #include "dialogs/WarnOneView.h"
 #include "dialogs/WarnTwoView.h"
 #include "mainview/MainView.h"
+#include "panels/charInfoView.h"
+#include "platform/keywindow.h"
 
 /// A dialog in a window of its own, over the middle of the main window.
 template <class Dialog>
@@ -35,6 +37,20 @@ void MainView::OpenAbout()
     auto *const about = makeDialog<AboutView>();
     about->setFWNumber(m_FWNumber);
     about->runModal();
+}
+
+void MainView::DisplayCharInfo()
+{
+    if (!bDisplayCharinfoWindow) {
+        auto *const dialog = makeDialogAt<charInfoView>(*window());
+        dialog->setcharAction({this, &MainView::CharInfoAction});
+        pCharInfoWindow = static_cast<custumwindow *>(dialog->window());
+        pCharInfoWindow->setObjectName(QStringLiteral("pCharInfoWindow"));
+        pCharInfoWindow->setCloseRequest({dialog, &charInfoView::closeRequested});
+        pCharInfoWindow->center();
+        bDisplayCharinfoWindow = true;
+    }
+    makeKeyAndOrderFront(*pCharInfoWindow);
 }
 
 void MainView::DisplayWriteDeviceBar()

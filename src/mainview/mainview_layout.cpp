@@ -104,6 +104,7 @@ void MainView::drawRect(Canvas &canvas)
                                TextAlign::Left, kPercentSize);
     for (unsigned index = 0; index < kProfileCount; ++index)
         DrawProfileColorLine(canvas, index);
+    DisplayCharacterinfo(canvas);
 }
 
 void MainView::DrawProfileColorLine(Canvas &canvas, unsigned index)

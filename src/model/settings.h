@@ -100,7 +100,8 @@ extern ConfigData m_Config;
 
 /// The profile at a 0-based index from outside; the first one for an index above 9.
 ProfileInfo &ProfileAt(std::uint32_t index);
-/// The profile that PROFILE_ID names, bounded in the same way.
+/// The profile that PROFILE_ID names, bounded in the same way, and its index.
 ProfileInfo &CurrentProfile();
+std::uint32_t CurrentProfileIndex();
 /// The macro in a slot from outside; an empty macro for a slot above 49.
 const MacroInfo &MacroAt(const ProfileInfo &profile, std::uint32_t slot);

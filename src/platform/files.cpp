@@ -78,11 +78,11 @@ void flushFolderOf(const std::string &path)
         ::fsync(descriptor.number());
 }
 
-bool fillTemporary(int number, std::string_view bytes, mode_t permissions)
+bool fillTemporary(int number, std::string_view bytes, mode_t permissions, Flush flush)
 {
     Descriptor descriptor(number);
-    return writeAll(number, bytes) && ::fchmod(number, permissions) == 0 && ::fsync(number) == 0 &&
-           descriptor.close();
+    return writeAll(number, bytes) && ::fchmod(number, permissions) == 0 &&
+           (flush == Flush::Later || ::fsync(number) == 0) && descriptor.close();
 }
 
 } // namespace
@@ -105,19 +105,20 @@ ReadStatus readFile(const std::string &path, std::size_t most, std::string &byte
     return readAll(descriptor.number(), bytes) ? ReadStatus::Ok : ReadStatus::Unreadable;
 }
 
-bool writeFileAtomically(const std::string &path, std::string_view bytes)
+bool writeFileAtomically(const std::string &path, std::string_view bytes, Flush flush)
 {
     const mode_t permissions = permissionsFor(path);
     std::string temporary = path + ".XXXXXX";
     const int number = ::mkostemp(temporary.data(), O_CLOEXEC);
     if (number < 0)
         return false;
-    if (!fillTemporary(number, bytes, permissions) ||
+    if (!fillTemporary(number, bytes, permissions, flush) ||
         std::rename(temporary.c_str(), path.c_str()) != 0) {
         ::unlink(temporary.c_str());
         return false;
     }
-    flushFolderOf(path);
+    if (flush == Flush::ToDisk)
+        flushFolderOf(path);
     return true;
 }
 

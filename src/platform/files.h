@@ -14,11 +14,16 @@ enum class ReadStatus {
 /// Unreadable, and so is a file of more than `most` bytes.
 ReadStatus readFile(const std::string &path, std::size_t most, std::string &bytes);
 
+/// Whether writing waits until the disk has it, which may take a while. What does not wait may be
+/// lost, or empty, after a power cut.
+enum class Flush { ToDisk, Later };
+
 /// Replaces the file at `path` in one step, so that a reader sees the old bytes or the new ones,
 /// also after a power cut: a temporary file beside it, made exclusively, flushed to the disk, is
 /// renamed over it, and the folder is flushed. Keeps the old file's permissions; a new file gets
 /// 0644. On failure false: the old file stands as it was and no temporary file is left.
-bool writeFileAtomically(const std::string &path, std::string_view bytes);
+bool writeFileAtomically(const std::string &path, std::string_view bytes,
+                         Flush flush = Flush::ToDisk);
 
 /// Whether anything is at `path`; true also where that cannot be told.
 bool isPresent(const std::string &path);

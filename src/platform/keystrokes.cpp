@@ -41,6 +41,13 @@ bool wasOn(const ModifierKey &key, const QKeyEvent &event)
     return (event.nativeModifiers() & key.x11) != 0;
 }
 
+/// What a log line can show of what a key types.
+char shownCharacter(const QString &typed)
+{
+    const char first = typed.isEmpty() ? ' ' : typed.front().toLatin1();
+    return first > ' ' && first <= '~' ? first : ' ';
+}
+
 KeyStroke strokeOf(const QKeyEvent &event, KeyEventType type, std::uint16_t keyCode,
                    std::uint32_t flags)
 {
@@ -48,6 +55,12 @@ KeyStroke strokeOf(const QKeyEvent &event, KeyEventType type, std::uint16_t keyC
 }
 
 } // namespace
+
+void logKeyUp(const KeyStroke &stroke)
+{
+    systemLog("Get keyUp Event:keycode:%x,type:%x,%c", stroke.keyCode,
+              static_cast<unsigned>(stroke.type), shownCharacter(stroke.characters));
+}
 
 std::uint32_t modifierMask(std::uint16_t keyCode)
 {

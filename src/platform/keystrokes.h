@@ -22,6 +22,9 @@ struct KeyStroke
     std::uint32_t time = 0;          ///< on the display's monotonic clock, in milliseconds; wraps
 };
 
+/// Logs the release of a key, with what it types where that is visible ASCII.
+void logKeyUp(const KeyStroke &stroke);
+
 /// The virtual key code of Caps Lock.
 inline constexpr std::uint16_t kCapsLockKey = 57;
 

@@ -2,6 +2,7 @@
 
 #include <syslog.h>
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 
@@ -19,6 +20,22 @@ std::string &prefix()
     return instance;
 }
 
+bool isControl(char c)
+{
+    constexpr char del = 0x7F;
+    return (c >= 0 && c < ' ') || c == del;
+}
+
+/// U+0080 to U+009F, by the first of their two bytes.
+void blankLatinControls(std::string &line)
+{
+    for (std::size_t at = line.find('\xC2'); at != std::string::npos;
+         at = line.find('\xC2', at + 1)) {
+        if (at + 1 < line.size() && static_cast<unsigned char>(line[at + 1]) < 0xA0)
+            line.replace(at, 2, " ");
+    }
+}
+
 std::string formatted(const char *format, va_list arguments)
 {
     va_list again;
@@ -27,6 +44,8 @@ std::string formatted(const char *format, va_list arguments)
     std::string line(length > 0 ? static_cast<std::size_t>(length) : 0, '\0');
     std::vsnprintf(line.data(), line.size() + 1, format, again);
     va_end(again);
+    std::ranges::replace_if(line, isControl, ' ');
+    blankLatinControls(line);
     return line;
 }
 

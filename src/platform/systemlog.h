@@ -4,7 +4,8 @@
 #include <string>
 
 /// Writes one line to the platform's system log and to standard error. The format is printf's.
-/// Any thread.
+/// Control characters, which a terminal would obey, become blanks: a line may hold what others have
+/// written. Any thread.
 [[gnu::format(printf, 1, 2)]] void systemLog(const char *format, ...);
 
 /// Takes the log lines in place of the system log, until it is called with an empty function.

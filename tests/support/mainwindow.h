@@ -13,10 +13,13 @@
 
 /// The program's windows, shown, with a settings file, notifications, file panels and a way to quit
 /// of their own. Without `file` there is no settings file: the program starts with its defaults.
+/// The web is as silent as it can be, but for a `host` that stands for the game service in all
+/// regions.
 struct MainWindowStage
 {
-    explicit MainWindowStage(const QByteArray &file = {})
+    explicit MainWindowStage(const QByteArray &file = {}, const std::string &host = {})
     {
+        hosts.fill(host);
         if (!file.isEmpty())
             settings.put(file);
         start(settings.path());
@@ -27,7 +30,7 @@ struct MainWindowStage
         interface = std::make_unique<Interface>(Environment{
             path, &center, [this] { ++quits; }, &panels,
             [this](const std::string &file) { openedFiles.push_back(file); },
-            [this](const std::string &address) { openedAddresses.push_back(address); }});
+            [this](const std::string &address) { openedAddresses.push_back(address); }, hosts});
         if (!QTest::qWaitForWindowActive(&window()))
             qFatal("the main window does not come up");
     }
@@ -88,6 +91,7 @@ struct MainWindowStage
     AttendedPanels panels;
     std::vector<std::string> openedFiles;
     std::vector<std::string> openedAddresses;
+    RegionHosts hosts;
     LogCapture log;
     int quits = 0;
     std::unique_ptr<Interface> interface;
