@@ -231,6 +231,7 @@ private:
     void readReply(const std::shared_ptr<CharacterReading> &reading, std::uint32_t profile);
     void takeCharacter(const CharacterReading &reading, std::uint32_t profile);
     void storeCharacter(std::uint32_t profile, const CharacterFound &found);
+    void overtakeLookups(std::uint32_t profile);
 
     Environment m_environment;
     driver::DriverLink m_driver;

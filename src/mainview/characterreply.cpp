@@ -6,6 +6,7 @@
 #include <QtCore/QElapsedTimer>
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -15,9 +16,10 @@ constexpr int kSlice = 8;
 /// What is logged of a line; no reply of the service has one as long.
 constexpr std::size_t kMostLogged = 16 * 1024;
 
+/// By the C library: the standard one's search is ten times as long on a line made to be slow.
 bool contains(std::string_view line, std::string_view word)
 {
-    return line.find(word) != std::string_view::npos;
+    return ::memmem(line.data(), line.size(), word.data(), word.size()) != nullptr;
 }
 
 /// The number between the line's first colon and its first comma; nothing where these do not

@@ -171,7 +171,7 @@ std::string MainView::downloadUrl(const std::string &url, const std::function<vo
     return path;
 }
 
-/// A lookup that was answered later, but whose portrait came sooner, is not undone.
+/// What was answered or loaded later is not undone by a portrait that took long.
 void MainView::storeCharacter(std::uint32_t profile, const CharacterFound &found)
 {
     if (found.lookup < m_storedLookups.at(profile))
@@ -182,4 +182,10 @@ void MainView::storeCharacter(std::uint32_t profile, const CharacterFound &found
     SetText(character.CLASS, found.className);
     SetText(character.RACE, found.portrait);
     update();
+}
+
+/// The profile was loaded: its character is newer than any that was found before.
+void MainView::overtakeLookups(std::uint32_t profile)
+{
+    m_storedLookups.at(profile) = ++m_lookups;
 }

@@ -155,6 +155,8 @@ void MainView::ProfileChangeYESAction()
 void MainView::ProfileChangeNOAction()
 {
     m_pXMLconfig.LoadConfigFile();
+    for (std::uint32_t profile = 0; profile < kProfileCount; ++profile)
+        overtakeLookups(profile);
 }
 
 void MainView::profileAction(HoverButton *sender)
@@ -192,9 +194,11 @@ void MainView::saveOnBoardAction(HoverButton * /*sender*/)
 void MainView::ImportProfile()
 {
     const QPointer<MainView> alive(this);
-    m_pXMLconfig.ImportProfile(m_Config.PROFILE_ID);
+    const bool hasRead = m_pXMLconfig.ImportProfile(m_Config.PROFILE_ID);
     if (!alive)
         return;
+    if (hasRead)
+        overtakeLookups(CurrentProfileIndex());
     m_pXMLconfig.WriteConfigFile();
     initButtonSetting();
     if (pWindowControll)

@@ -5,15 +5,13 @@
 
 namespace {
 
-constexpr char kUserAgent[] = "KyrMGUI2";
-
 /// What is taken from the network ahead of its reader.
 constexpr qint64 kReadAhead = 256 * 1024;
 
 QNetworkRequest requestFor(const QUrl &url, std::chrono::milliseconds timeout)
 {
     QNetworkRequest request(url);
-    request.setHeader(QNetworkRequest::UserAgentHeader, QLatin1String(kUserAgent));
+    request.setRawHeader("User-Agent", "KyrMGUI2");
     // A small packed body can hold a huge one, and unpacking holds up the windows.
     request.setRawHeader("Accept-Encoding", "identity");
     request.setTransferTimeout(static_cast<int>(timeout.count()));
