@@ -2,7 +2,7 @@
 
 #include "model/regions.h"
 
-/// What the program's parts outside itself are called.
+/// Where the program finds what lies outside itself.
 struct Places
 {
     std::string settingsPath;

@@ -9,13 +9,11 @@ using namespace macrolayout;
 
 namespace {
 
-constexpr std::uint32_t kEnter = 36;
-
 /// Leaves the delays as they are.
 void setEnter(std::span<KeymapEvent, kMostKeyEvents> keys)
 {
     for (KeymapEvent &key : keys)
-        key.keycode = kEnter;
+        key.keycode = kReturnKey;
     keys.front().kind = kKeyPress;
     keys.back().kind = kKeyRelease;
 }

@@ -13,7 +13,6 @@
 
 #include <span>
 
-class CharacterReading;
 class PopupProgressBar;
 
 /// The content of the main window and the controller of the whole utility: it owns the settings
@@ -153,9 +152,10 @@ public:
     /// Asks the game service; the answer comes through the event loop. A request that is under way
     /// goes on and adds to what is received for the new one, on purpose.
     void openUrl(const std::string &url);
-    /// Fetches a portrait and puts it beside the settings file. The path, which holds whether or
-    /// not the portrait comes to be there; `done` is called when nothing more will come.
-    std::string downloadUrl(const std::string &url, const std::function<void()> &done);
+    /// Fetches a portrait and puts it beside the settings file, then calls `done` with its path,
+    /// whether or not the portrait came to be there.
+    void downloadUrl(const std::string &url,
+                     const std::function<void(const std::string &path)> &done);
     /// A class by the service's number; empty for a number without one.
     static const char *GetKyrClassName(std::int32_t id);
 
@@ -167,7 +167,7 @@ protected:
 
 private:
     struct Command;
-    struct CharacterFound;
+    struct Lookup;
 
     // Layout
     void buildControls();
@@ -228,9 +228,9 @@ private:
     void didReceiveData(std::string_view chunk) override;
     void didFailWithError(const UrlError &error) override;
     void connectionDidFinishLoading() override;
-    void readReply(const std::shared_ptr<CharacterReading> &reading, std::uint32_t profile);
-    void takeCharacter(const CharacterReading &reading, std::uint32_t profile);
-    void storeCharacter(std::uint32_t profile, const CharacterFound &found);
+    void readReply(const std::shared_ptr<Lookup> &lookup);
+    void fetchPortrait(const std::shared_ptr<Lookup> &lookup);
+    void storeCharacter(const Lookup &lookup, const std::string &portrait);
     void overtakeLookups(std::uint32_t profile);
 
     Environment m_environment;

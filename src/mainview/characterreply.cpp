@@ -2,6 +2,7 @@
 
 #include "platform/numbers.h"
 #include "platform/systemlog.h"
+#include "platform/utf8.h"
 
 #include <QtCore/QElapsedTimer>
 
@@ -35,9 +36,8 @@ std::optional<std::int32_t> firstNumber(std::string_view line)
 
 std::string_view withoutFirstCharacter(std::string_view text)
 {
-    const auto isContinuation = [](char c) { return (static_cast<unsigned char>(c) >> 6U) == 2; };
     std::size_t length = text.empty() ? 0 : 1;
-    while (length < text.size() && isContinuation(text[length]))
+    while (length < text.size() && isUtf8Continuation(text[length]))
         ++length;
     return text.substr(length);
 }

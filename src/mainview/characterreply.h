@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// What the game service's reply says of a character. The reply is searched line by line for three
 /// words and not read as what it is, so anything else in it does no harm.

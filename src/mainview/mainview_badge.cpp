@@ -20,6 +20,8 @@ bool isCharacterArea(UpPoint point)
     return point.x >= kLeft && point.x <= kRight && point.y >= kBottom && point.y <= kTop;
 }
 
+constexpr QChar kEllipsis(0x2026);
+
 struct Line
 {
     QString text;
@@ -38,18 +40,27 @@ bool fits(const QString &text, UpRect rect, int size)
     return needed.width() <= rect.width && needed.height() <= rect.height;
 }
 
-/// A text that is too long is written somewhat smaller, or else cut at its end.
+/// `text`, or as much of its beginning as fits, with an ellipsis.
+QString cutToFit(const QString &text, UpRect rect, int size)
+{
+    if (fits(text, rect, size))
+        return text;
+    QString cut = text;
+    do
+        cut.chop(1);
+    while (!cut.isEmpty() && !fits(cut + kEllipsis, rect, size));
+    return cut + kEllipsis;
+}
+
+/// A text that is too long is written somewhat smaller, and if that does not do, cut at its end.
 void draw(Canvas &canvas, const Line &line)
 {
     constexpr int mostSmaller = 2;
     int size = line.size;
     while (!fits(line.text, line.rect, size) && size > line.size - mostSmaller)
         --size;
-    const QFontMetrics metrics(systemFont(size));
-    const QString text = fits(line.text, line.rect, size)
-                             ? line.text
-                             : metrics.elidedText(line.text, Qt::ElideRight, line.rect.width);
-    canvas.DrawMyTextwithColor(text, line.rect, line.colour, TextAlign::Left, size);
+    canvas.DrawMyTextwithColor(cutToFit(line.text, line.rect, size), line.rect, line.colour,
+                               TextAlign::Left, size);
 }
 
 } // namespace

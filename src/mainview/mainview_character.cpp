@@ -4,10 +4,11 @@
 #include "model/fixedtext.h"
 #include "panels/charInfoView.h"
 #include "platform/systemlog.h"
-
-#include <QtCore/QByteArrayView>
+#include "platform/utf8.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -21,11 +22,6 @@ constexpr const char *kClassNames[] = {
 
 /// A longer one is no address of a portrait.
 constexpr std::size_t kLongestUrl = 8192;
-
-bool isUtf8(std::string_view text)
-{
-    return QByteArrayView(text.data(), static_cast<qsizetype>(text.size())).isValidUtf8();
-}
 
 /// Every byte as a percent sign and its hexadecimal number.
 std::string percentEscaped(std::string_view bytes)
@@ -55,20 +51,23 @@ std::string addressAt(const std::string &host, const std::string &path)
     return "http://" + host + path;
 }
 
+/// Whether `field` can hold all of `text` as the record keeps it, which may be longer.
 bool fitsField(std::string_view text, std::span<const char> field)
 {
-    return text.size() < field.size();
+    std::array<char, 1024> kept{};
+    SetText(kept, text);
+    return GetText(kept).size() < field.size();
 }
 
 } // namespace
 
-/// What a lookup has found, as it goes into the profile.
-struct MainView::CharacterFound
+/// A lookup that was answered. It is about what was current then, however long the rest takes.
+struct MainView::Lookup
 {
-    unsigned lookup; ///< its number
-    std::uint32_t level;
-    const char *className;
-    std::string portrait; ///< path of the file
+    unsigned number;
+    std::uint32_t profile;
+    std::uint32_t region;
+    CharacterReading reading;
 };
 
 void MainView::CharInfoAction(std::int32_t sender)
@@ -130,58 +129,57 @@ void MainView::connectionDidFinishLoading()
     systemLog("Succeeded! Received %d bytes of data", static_cast<int>(text.size()));
     if (!isUtf8(text))
         return systemLog("the reply is no text");
-    // Whichever profile becomes current while it is read: this is the one that it came for.
-    readReply(std::make_shared<CharacterReading>(std::move(text)), CurrentProfileIndex());
+    const std::uint32_t region = CurrentProfile().CHARACTER_INFO.REGION;
+    readReply(std::make_shared<Lookup>(
+        Lookup{++m_lookups, CurrentProfileIndex(), region, CharacterReading(std::move(text))}));
 }
 
-void MainView::readReply(const std::shared_ptr<CharacterReading> &reading, std::uint32_t profile)
+void MainView::readReply(const std::shared_ptr<Lookup> &lookup)
 {
-    if (reading->readSome())
-        takeCharacter(*reading, profile);
-    else
-        performDeferred(this, &MainView::readReply, reading, profile);
+    if (!lookup->reading.readSome())
+        return performDeferred(this, &MainView::readReply, lookup);
+    if (lookup->reading.reply().isComplete() && lookup->region < kRegionCount)
+        fetchPortrait(lookup);
 }
 
-void MainView::takeCharacter(const CharacterReading &reading, std::uint32_t profile)
+void MainView::fetchPortrait(const std::shared_ptr<Lookup> &lookup)
 {
-    const CharacterReply &reply = reading.reply();
-    const CharacterInfo &character = ProfileAt(profile).CHARACTER_INFO;
-    if (!reply.isComplete() || character.REGION >= kRegionCount)
-        return;
-    const std::string url = addressAt(m_environment.hosts.at(character.REGION),
-                                      kRegions[character.REGION].portraitPath + reply.thumbnail());
-    const CharacterFound found{++m_lookups, static_cast<std::uint32_t>(reply.level()),
-                               GetKyrClassName(reply.classId()),
-                               portraitPath(m_environment.settingsPath, url)};
-    if (url.size() > kLongestUrl || !fitsField(found.portrait, character.RACE) ||
-        !fitsField(found.className, character.CLASS))
+    const CharacterReply &reply = lookup->reading.reply();
+    const std::string url = addressAt(m_environment.hosts.at(lookup->region),
+                                      kRegions[lookup->region].portraitPath + reply.thumbnail());
+    const CharacterInfo &character = ProfileAt(lookup->profile).CHARACTER_INFO;
+    if (url.size() > kLongestUrl ||
+        !fitsField(portraitPath(m_environment.settingsPath, url), character.RACE) ||
+        !fitsField(GetKyrClassName(reply.classId()), character.CLASS))
         return systemLog("the character does not fit into the profile");
-    downloadUrl(url, [this, profile, found] { storeCharacter(profile, found); });
+    downloadUrl(url, [this, lookup](const std::string &path) { storeCharacter(*lookup, path); });
 }
 
-std::string MainView::downloadUrl(const std::string &url, const std::function<void()> &done)
+void MainView::downloadUrl(const std::string &url,
+                           const std::function<void(const std::string &path)> &done)
 {
-    const std::string path = portraitPath(m_environment.settingsPath, url);
-    m_urlLoader.fetch(url, [this, path, done](const UrlLoader::Content &content) {
+    m_urlLoader.fetch(url, [this, url, done](const UrlLoader::Content &content) {
+        const std::string path = portraitPath(m_environment.settingsPath, url);
         if (content)
             savePortrait(path, m_environment.settingsPath, *content);
         m_portrait.forget();
-        done();
+        done(path);
     });
-    return path;
 }
 
 /// What was answered or loaded later is not undone by a portrait that took long.
-void MainView::storeCharacter(std::uint32_t profile, const CharacterFound &found)
+void MainView::storeCharacter(const Lookup &lookup, const std::string &portrait)
 {
-    if (found.lookup < m_storedLookups.at(profile))
+    unsigned &stored = m_storedLookups.at(lookup.profile);
+    if (lookup.number < stored)
         return;
-    m_storedLookups.at(profile) = found.lookup;
-    CharacterInfo &character = ProfileAt(profile).CHARACTER_INFO;
-    character.LEVEL = found.level;
-    SetText(character.CLASS, found.className);
-    SetText(character.RACE, found.portrait);
-    update();
+    stored = lookup.number;
+    const CharacterReply &reply = lookup.reading.reply();
+    CharacterInfo &character = ProfileAt(lookup.profile).CHARACTER_INFO;
+    character.LEVEL = static_cast<std::uint32_t>(reply.level());
+    SetText(character.CLASS, GetKyrClassName(reply.classId()));
+    SetText(character.RACE, portrait);
+    update(); // which draws the badge
 }
 
 /// The profile was loaded: its character is newer than any that was found before.

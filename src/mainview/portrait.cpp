@@ -1,36 +1,33 @@
 #include "mainview/portrait.h"
 
+#include "mainview/imagehead.h"
 #include "platform/files.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QFuture>
 #include <QtCore/QPromise>
-#include <QtCore/QThreadPool>
 #include <QtGui/QImageReader>
-
-#include <algorithm>
-#include <array>
 
 namespace {
 
 constexpr std::size_t kMostBytes = 8U << 20U;
-constexpr qint64 kMostPixelBytes = 64 << 20;
-constexpr int kMegabyte = 1 << 20;
-constexpr qint64 kBytesAPixel = 4;
+constexpr int kMostPixelMegabytes = 64;
+constexpr std::int64_t kMostPixels = 16 << 20; // of four bytes
+constexpr int kMostPasses = 100;
 
-/// Decoding this many pixels takes about ten milliseconds.
-constexpr qint64 kPixelsAtOnce = 1 << 19;
+/// Decoding a portrait takes about ten milliseconds for this work, and seconds for that.
+constexpr std::int64_t kWorkAtOnce = 1 << 19;
+constexpr std::int64_t kMostWork = 1 << 28;
 
-/// Pictures made of pixels: a drawing could ask for anything.
-bool isPortraitFormat(const QByteArray &format)
+std::int64_t workOf(const ImageHead &head)
 {
-    constexpr std::array formats = {"jpeg", "png", "gif", "bmp", "webp"};
-    return std::ranges::any_of(formats, [&](const char *known) { return format == known; });
+    return head.pixels * head.passes;
 }
 
-qint64 pixelsOf(QSize size)
+bool isPortrait(const ImageHead &head)
 {
-    return qint64{size.width()} * size.height();
+    return head.pixels > 0 && head.pixels <= kMostPixels && head.passes <= kMostPasses &&
+           workOf(head) <= kMostWork;
 }
 
 QByteArray contentOf(const std::string &path)
@@ -40,34 +37,26 @@ QByteArray contentOf(const std::string &path)
     return QByteArray::fromStdString(bytes);
 }
 
-qint64 pixelsIn(QByteArray bytes)
-{
-    QBuffer buffer(&bytes);
-    return pixelsOf(QImageReader(&buffer).size());
-}
-
 } // namespace
 
 QImage decodePortrait(const QByteArray &bytes, QSize pixels)
 {
-    QByteArray content = bytes;
+    const ImageHead head = imageHead(bytes);
+    if (!isPortrait(head))
+        return {};
+    QByteArray content = pixelsOnly(bytes);
     QBuffer buffer(&content);
-    buffer.open(QIODevice::ReadOnly);
-    const QByteArray format = QImageReader::imageFormat(&buffer);
-    if (!isPortraitFormat(format))
-        return {};
-    QImageReader reader(&buffer, format);
-    if (pixelsOf(reader.size()) * kBytesAPixel > kMostPixelBytes)
-        return {};
-    const QImage image = reader.read();
+    const QImage image = QImageReader(&buffer, head.format).read();
     return image.isNull() ? image
                           : image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 Portrait::Portrait(std::function<void()> changed) : m_changed(std::move(changed))
 {
-    // For what does not say its size before it is decoded.
-    QImageReader::setAllocationLimit(static_cast<int>(kMostPixelBytes / kMegabyte));
+    // For the whole program, which loads no other images that others have made. It also holds where
+    // a pixel has more than four bytes.
+    QImageReader::setAllocationLimit(kMostPixelMegabytes);
+    m_pool.setMaxThreadCount(1);
 }
 
 const SkinImage &Portrait::at(const std::string &path, qreal scale)
@@ -77,30 +66,31 @@ const SkinImage &Portrait::at(const std::string &path, qreal scale)
     return m_picture;
 }
 
-void Portrait::forget()
-{
-    m_path.clear();
-}
-
 void Portrait::load(const std::string &path, qreal scale)
 {
     m_path = path;
     m_scale = scale;
+    ++m_loads;
+    m_pool.clear();
     const QSize pixels = (QSizeF(kPortraitWidth, kPortraitHeight) * scale).toSize();
     const QByteArray bytes = contentOf(path);
-    const unsigned number = ++m_loads;
-    if (pixelsIn(bytes) <= kPixelsAtOnce)
-        return show(decodePortrait(bytes, pixels));
+    const ImageHead head = imageHead(bytes);
+    const bool takesLong = isPortrait(head) && workOf(head) > kWorkAtOnce;
+    show(takesLong ? QImage() : decodePortrait(bytes, pixels));
+    if (takesLong)
+        decodeLater(bytes, pixels);
+}
 
-    show({});
-    auto promise = std::make_shared<QPromise<QImage>>();
-    promise->future().then(this, [this, number](const QImage &image) {
+void Portrait::decodeLater(const QByteArray &bytes, QSize pixels)
+{
+    const auto promise = std::make_shared<QPromise<QImage>>();
+    promise->future().then(this, [this, number = m_loads](const QImage &image) {
         if (number != m_loads)
             return; // another one has been asked for
         show(image);
         m_changed();
     });
-    QThreadPool::globalInstance()->start([promise, bytes, pixels] {
+    m_pool.start([promise, bytes, pixels] {
         promise->start();
         promise->addResult(decodePortrait(bytes, pixels));
         promise->finish();

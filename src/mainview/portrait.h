@@ -3,6 +3,7 @@
 #include "platform/skinimage.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QThreadPool>
 #include <QtGui/QImage>
 
 #include <functional>
@@ -17,17 +18,18 @@ inline constexpr int kPortraitHeight = 65;
 class Portrait : public QObject
 {
 public:
-    /// `changed` is called when one has come that
-    /// took too long to be waited for; until then "unkown" stands in for it.
+    /// `changed` is called when a picture has come that was not waited for, because decoding it
+    /// takes long; until then "unkown" stands in for it.
     explicit Portrait(std::function<void()> changed);
 
     /// The picture in the file at `path`, at `scale` pixels a point.
     const SkinImage &at(const std::string &path, qreal scale);
     /// The file may hold another picture now.
-    void forget();
+    void forget() { m_path.clear(); }
 
 private:
     void load(const std::string &path, qreal scale);
+    void decodeLater(const QByteArray &bytes, QSize pixels);
     void show(const QImage &image);
 
     const std::function<void()> m_changed;
@@ -35,8 +37,11 @@ private:
     qreal m_scale = 1;
     unsigned m_loads = 0;
     SkinImage m_picture;
+    QThreadPool
+        m_pool; ///< one thread; its end waits for a picture under way, a few seconds at most
 };
 
 /// The picture in the bytes of an image file, scaled to `pixels`. Null where they are no image of a
-/// kind that portraits have, or one of more than 64 MiB of pixels. Any thread.
+/// kind that portraits have, one of more than 64 MiB of pixels, or one made to take long. Any
+/// thread.
 QImage decodePortrait(const QByteArray &bytes, QSize pixels);

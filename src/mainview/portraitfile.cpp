@@ -22,9 +22,11 @@ QString text(std::string_view bytes)
     return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
 
-bool isControl(QChar character)
+/// The record cannot hold the last two.
+bool isForbidden(QChar character)
 {
-    return character.category() == QChar::Other_Control;
+    return character.category() == QChar::Other_Control || character == QChar(0xFFFE) ||
+           character == QChar(0xFFFF);
 }
 
 } // namespace
@@ -39,7 +41,7 @@ bool isPortraitName(std::string_view name, std::string_view settingsName)
     if (name.empty() || name == "." || name == ".." || name.size() > kLongestName)
         return false;
     const QString shown = text(name);
-    return std::ranges::none_of(shown, isControl) &&
+    return std::ranges::none_of(shown, isForbidden) &&
            !shown.startsWith(text(settingsName), Qt::CaseInsensitive) &&
            !shown.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive);
 }

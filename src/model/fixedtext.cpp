@@ -1,6 +1,7 @@
 #include "model/fixedtext.h"
 
-#include <QtCore/QByteArrayView>
+#include "platform/utf8.h"
+
 #include <QtCore/QStringConverter>
 
 #include <algorithm>
@@ -24,8 +25,7 @@ std::size_t findNonCharacter(std::string_view text)
 
 bool isStorable(std::string_view text)
 {
-    return QByteArrayView(text.data(), static_cast<qsizetype>(text.size())).isValidUtf8() &&
-           std::ranges::none_of(text, isForbiddenControl) &&
+    return isUtf8(text) && std::ranges::none_of(text, isForbiddenControl) &&
            findNonCharacter(text) == std::string_view::npos;
 }
 
@@ -46,10 +46,9 @@ std::string_view cut(std::string_view text, std::size_t most)
 {
     if (text.size() <= most)
         return text;
-    const auto isContinuation = [](char c) { return (static_cast<unsigned char>(c) >> 6U) == 2; };
     constexpr std::size_t mostContinuations = 3;
     const std::size_t least = most - std::min(most, mostContinuations);
-    while (most > least && isContinuation(text[most]))
+    while (most > least && isUtf8Continuation(text[most]))
         --most;
     return text.substr(0, most);
 }

@@ -14,9 +14,6 @@ constexpr int kRegionTag = 0x1003;
 constexpr int kRegionListTag = 0x2000;
 constexpr int kLabelSize = 11;
 
-constexpr std::uint16_t kReturnKey = 36;
-constexpr std::uint16_t kEscapeKey = 53;
-
 constexpr char kTitle[] = "Add a Kyr Character";
 
 struct Label
@@ -58,7 +55,7 @@ struct charInfoView::FieldRow
     const char *name;
     UpRect rect;
     const char *description;
-    char (CharacterInfo::*field)[200];
+    decltype(&CharacterInfo::SERVER) field;
 };
 
 const std::array<charInfoView::FieldRow, charInfoView::kFieldCount> charInfoView::kFields = {{
@@ -75,7 +72,7 @@ charInfoView::charInfoView(QWidget *parent) : View(parent)
     buildButtons();
     setRegionButton(0);
     m_fields[Realm]->setFocus();
-    connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
+    connect(qApp, &QApplication::focusChanged, this, &charInfoView::keyboardMoved);
 }
 
 void charInfoView::buildFields()
@@ -202,6 +199,13 @@ void charInfoView::CloseListBox(PopupContent * /*sender*/)
     m_popup.close(*window());
 }
 
+void charInfoView::keyboardMoved()
+{
+    if (!isActiveWindow())
+        m_pressedKey = 0; // it comes up elsewhere
+    update();
+}
+
 void charInfoView::keyDown(QKeyEvent *event)
 {
     if (!event->isAutoRepeat())
@@ -215,8 +219,9 @@ void charInfoView::keyUp(QKeyEvent *event)
     if (!stroke)
         return;
     logKeyUp(*stroke);
-    if (std::exchange(m_pressedKey, 0) != event->key())
+    if (event->key() != m_pressedKey)
         return;
+    m_pressedKey = 0;
     if (stroke->keyCode == kReturnKey)
         ButtonOK->click();
     else if (stroke->keyCode == kEscapeKey)

@@ -57,6 +57,7 @@ private:
     void confirm();
     bool storeField(std::size_t field);
     void end(std::int32_t tag);
+    void keyboardMoved();
 
     SkinImage BKImage;
     std::array<TextField *, kFieldCount> m_fields{};

@@ -25,7 +25,9 @@ struct KeyStroke
 /// Logs the release of a key, with what it types where that is visible ASCII.
 void logKeyUp(const KeyStroke &stroke);
 
-/// The virtual key code of Caps Lock.
+/// Virtual key codes that are told apart.
+inline constexpr std::uint16_t kReturnKey = 36;
+inline constexpr std::uint16_t kEscapeKey = 53;
 inline constexpr std::uint16_t kCapsLockKey = 57;
 
 /// The flag of a modifier key, shared by the left and the right one; 0 for any other key.
@@ -34,8 +36,8 @@ std::uint32_t modifierMask(std::uint16_t keyCode);
 /// Turns the toolkit's key events into key strokes, one after the other.
 ///
 /// A key that is held down is pressed again and again and released once, whether the display sends
-/// releases between the presses or not. Caps Lock is told when it
-/// goes down only: macOS reports it once for each press.
+/// releases between the presses or not. Caps Lock is told when it goes down only: macOS reports it
+/// once for each press.
 class KeyStrokes
 {
 public:

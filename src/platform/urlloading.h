@@ -4,13 +4,9 @@
 
 #include <chrono>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-
-class QNetworkAccessManager;
-class QNetworkReply;
 
 struct UrlError
 {
@@ -34,18 +30,21 @@ protected:
     ~UrlConnectionDelegate() = default;
 };
 
-/// Loads from addresses of the web, any number of requests at a time. Redirects are followed; what
-/// comes is never unpacked. Between requests nothing of the network is kept.
+/// Loads from addresses of the web, any number of requests at a time, each over a connection of its
+/// own. Redirects are followed, also to a secure connection.
+///
+/// The toolkit's own loader is not used, because anyone can answer a plain request: one whose head
+/// never ends holds that up for seconds and its thread for good, a redirect to a silent host for as
+/// long as the host likes, and it writes addresses in another way than they were given.
 class UrlLoader : public QObject
 {
 public:
     /// A longer body fails its request.
     static constexpr std::size_t kMostBytes = 8U << 20U;
 
-    /// A request fails when nothing comes for `timeout`.
-    explicit UrlLoader(std::chrono::milliseconds timeout);
-    /// Ends what is under way; nobody is told.
-    ~UrlLoader() override;
+    /// A request fails when nothing comes for `timeout`. The end of the loader ends what is under
+    /// way; nobody is told.
+    explicit UrlLoader(std::chrono::milliseconds timeout) : m_timeout(timeout) {}
 
     /// Starts a request; its delegate outlives it or the loader. False, and nobody is told
     /// anything, when the text is no address of the web.
@@ -58,12 +57,7 @@ public:
     void fetch(const std::string &url, const std::function<void(const Content &)> &done);
 
 private:
-    enum class Cache { AsTheProtocol, None };
-
-    bool start(const std::string &url, Cache cache, UrlConnectionDelegate &delegate);
-    void ended();
+    bool start(const std::string &url, bool isFresh, UrlConnectionDelegate &delegate);
 
     const std::chrono::milliseconds m_timeout;
-    std::unique_ptr<QNetworkAccessManager> m_manager; ///< while requests are running
-    int m_running = 0;
 };
