@@ -20,7 +20,32 @@ private Q_SLOTS:
     void aPressInAFieldIsNoneOnTheWindowBehind_data();
     void aPressInAFieldIsNoneOnTheWindowBehind();
     void theSelectionIsOfTheSkinsColours();
+    void theReleaseOfAKeyInAFieldReachesTheWindow();
 };
+
+namespace {
+
+/// Keeps the keys that come up in the window.
+class ReleasedKeys : public QObject
+{
+public:
+    explicit ReleasedKeys(QWidget &window) : m_window(window) { window.installEventFilter(this); }
+
+    std::vector<int> keys;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == &m_window && event->type() == QEvent::KeyRelease)
+            keys.push_back(static_cast<QKeyEvent *>(event)->key());
+        return false;
+    }
+
+private:
+    QWidget &m_window;
+};
+
+} // namespace
 
 void tst_textfields::aFieldStandsWhereItsFrameSays()
 {
@@ -128,6 +153,19 @@ void tst_textfields::theSelectionIsOfTheSkinsColours()
         QTest::keyClick(stage.window.windowHandle(), Qt::Key_A, Qt::ControlModifier);
         QVERIFY(!extentOf(shown(*field), selected).isEmpty());
     }
+}
+
+/// The window's dialog answers to some keys when they come up.
+void tst_textfields::theReleaseOfAKeyInAFieldReachesTheWindow()
+{
+    FieldStage stage;
+    const ReleasedKeys released(stage.window);
+    pointer::click(stage.field);
+    const std::vector<int> keys{Qt::Key_A, Qt::Key_Left, Qt::Key_Return, Qt::Key_Escape};
+    for (const int key : keys)
+        keyboard::press(Qt::Key(key));
+    QCOMPARE(released.keys, keys);
+    QCOMPARE(stage.field.text(), QStringLiteral("a"));
 }
 
 KYR_GUI_TEST(tst_textfields)

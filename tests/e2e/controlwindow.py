@@ -1,4 +1,4 @@
-"""A window of the screen and the controls in it."""
+"""Windows of the screen and the controls in them."""
 
 
 class ControlWindow:
@@ -28,3 +28,15 @@ class ControlWindow:
 
     def click(self, name):
         self.click_place(self.place(name))
+
+
+class DialogWindow(ControlWindow):
+    """One that has the keyboard from its beginning."""
+
+    def __init__(self, stage, title, controls):
+        super().__init__(stage, title, controls)
+        stage.wait_for_active(title)
+
+    def close_by(self, name):
+        self.click(name)
+        self.stage.wait_for_no_window(self.title)

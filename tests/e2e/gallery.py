@@ -3,11 +3,14 @@
 import plistlib
 import signal
 
+from characterdialog import REGIONS_TITLE, open_dialog
+from gameservice import CLASS, LEVEL, NAME, REALM
 from lightingbars import (BOTTOM_BAR, COLOR, CPI, INTENSITY, LEFT_BAR, PULSATION, TITLES,
                           Illumination, MouseProperties)
 from macroeditor import (COPY_PASTE, NO_DELAY, RECORD_DELAY, TEXT, DeletionWarning,
                          click_list_button, edit_macro, new_macro)
 from macrokeys import MOST_EVENTS, taps
+from portraits import draw_portrait
 from settingsfile import changed, factory_values, rich_settings
 from sidepanels import (CPI as CPI_PANEL, HANDLE, MACROS, OPEN_SIZE, PROFILES, RIGHT_BAR, TREE,
                         SidePanels)
@@ -26,6 +29,8 @@ PANELS = {"panel-cpi": (CPI_PANEL, 2), "panel-profiles": (PROFILES, 11),
 MENUS = {"menu-profile": ("BtnProfileMenu",), "menu-polling-rate": ("BtnToolsMenu", 0),
          "menu-lift-distance": ("BtnToolsMenu", 1), "menu-help": ("BtnHelpMenu",)}
 PROGRESS = "Applying profile to on-board memory..."
+# The profiles whose characters have no portrait, and that have no character.
+NO_PORTRAIT, NO_CHARACTER = 2, 3
 CHANGE_PROFILE = 32  # a function that the mouse cannot store
 # The modes of macros, as the file holds them.
 MODES = {"macro-copy-paste": (COPY_PASTE, 0), "macro-text": (TEXT, 1),
@@ -48,10 +53,16 @@ def sample_macros():
             for slot, sample in enumerate(samples, 1)}
 
 
-def sample_settings():
-    """A profile as a player has it, and a second one that cannot be saved on board."""
-    return changed(rich_settings(), PROFILE_1=factory_values() | sample_macros(),
-                   PROFILE_2={"BUTTON_14": CHANGE_PROFILE})
+def sample_settings(portrait):
+    """A profile as a player has it, its character's portrait in that file; a second one that cannot
+    be saved on board, and whose portrait is lost; a third one without a character."""
+    character = {"SERVER": REALM, "NAME": NAME, "LEVEL": LEVEL, "CLASS": CLASS,
+                 "RACE": str(portrait)}
+    lost = character | {"RACE": "/no/such/portrait.png"}
+    own = factory_values() | sample_macros() | {"CHARACTER_INFO": character}
+    return changed(rich_settings(), PROFILE_1=own,
+                   PROFILE_2={"BUTTON_14": CHANGE_PROFILE, "CHARACTER_INFO": lost},
+                   PROFILE_3={"CHARACTER_INFO": {}})
 
 
 class Gallery:
@@ -81,6 +92,7 @@ class Gallery:
 
     def take_all(self):
         self.take("window")
+        self.take_characters()
         self.take_list()
         self.take_menus()
         self.take_about()
@@ -90,6 +102,20 @@ class Gallery:
         self.take_bars()
         self.take_panels()
         self.take_macros()
+
+    def take_characters(self):
+        dialog = open_dialog(self.stage)
+        self.take("character")
+        dialog.enter(REALM, NAME)
+        dialog.open_regions()
+        self.take("character-regions")
+        self.stage.key("Escape")
+        self.stage.wait_for_no_window(REGIONS_TITLE)
+        dialog.close_by("ButtonCancel")
+        for name, profile in ("badge-without-portrait", NO_PORTRAIT), ("no-badge", NO_CHARACTER):
+            self.stage.click_control(f"BtnProfile{profile}")
+            self.take(name)
+        self.stage.click_control("BtnProfile1")
 
     def take_list(self):
         self.stage.click_control("Button5", button=3)
@@ -197,6 +223,8 @@ class Gallery:
 def take_pictures(settings, programs, tools, pictures):
     """Plays through everything on each scale; the settings file is overwritten."""
     for scale, size in SCREENS.items():
-        settings.write_bytes(plistlib.dumps(sample_settings()))
         with Stage(settings=settings, size=size, scale=scale) as stage:
+            portrait = stage.folder / "portrait.png"
+            portrait.write_bytes(draw_portrait())
+            settings.write_bytes(plistlib.dumps(sample_settings(portrait)))
             Gallery(stage, programs, tools, pictures).take_all()

@@ -3,7 +3,7 @@ and what a player does there."""
 
 import re
 
-from controlwindow import ControlWindow
+from controlwindow import DialogWindow
 from sidepanels import HEIGHTS, MACROS
 from stage import ROOT, control_rectangles, wait_for
 
@@ -34,18 +34,6 @@ def editor_places():
 
 
 EDITOR_PLACES = editor_places()
-
-
-class DialogWindow(ControlWindow):
-    """One that has the keyboard from its beginning."""
-
-    def __init__(self, stage, title, controls):
-        super().__init__(stage, title, controls)
-        stage.wait_for_active(title)
-
-    def close_by(self, name):
-        self.click(name)
-        self.stage.wait_for_no_window(self.title)
 
 
 class DeletionWarning(DialogWindow):

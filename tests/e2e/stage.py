@@ -85,6 +85,7 @@ class Stage:
         self.settings = pathlib.Path(settings or self.folder / "KT7R4Setting.xml")
         self.programs = []
         self.pointer = None
+        self.windows = {}  # by title, as last found
         self.environment = self.clean_environment()
         try:
             self.start_display(size)
@@ -183,8 +184,19 @@ class Stage:
 
     def window(self, title):
         """The id of the visible window with that title, or nothing."""
-        ids = self.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
-        return ids[0] if ids else None
+        known = self.windows.get(title)
+        if known and self.is_visible(known, title):
+            return known
+        # Those of the programs lie at most in a frame of the window manager's.
+        ids = self.output("xdotool", "search", "--onlyvisible", "--maxdepth", "2", "--name",
+                          f"^{title}$").split()
+        self.windows[title] = ids[0] if ids else None
+        return self.windows[title]
+
+    def is_visible(self, window, title):
+        """Asks for that window only: a search goes through all there are."""
+        text = self.output("xwininfo", "-id", window)
+        return f'"{title}"' in text and "IsViewable" in text
 
     def wait_for_window(self, title):
         return wait_for(lambda: self.window(title), f"the window {title!r}")
@@ -203,7 +215,8 @@ class Stage:
 
     def windows_of(self, window_class):
         """The ids of a program's visible windows."""
-        found = self.output("xdotool", "search", "--onlyvisible", "--class", window_class)
+        found = self.output("xdotool", "search", "--onlyvisible", "--maxdepth", "2", "--class",
+                            window_class)
         return set(found.split())
 
     def active_title(self):

@@ -258,11 +258,14 @@ class Mouse(OnBoard):
         self.assertEqual(self.about_picture(), shown)
 
     def test_the_polling_rate_reaches_mouse_and_file_at_once(self):
+        def in_file():
+            return self.stage.settings.exists() and self.file()["POLLING_RATE"]
+
         for row, code in ((0, 3), (1, 2), (2, 1)):
             self.stage.choose(TOOLS_MENU, POLLING_ROW, row)
             self.driver.wait_for_line(f"PollingRate is now {code}")
             self.assertIn(f"POLLING_RATE={code} ", self.described())
-            wait_for(lambda: self.file()["POLLING_RATE"] == code, f"code {code} in the file")
+            wait_for(lambda: in_file() == code, f"code {code} in the file")
 
     def test_the_lift_distance_reaches_the_mouse_and_no_file(self):
         for row, code in ((2, 0), (1, 1), (0, 2)):

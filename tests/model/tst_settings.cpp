@@ -121,6 +121,7 @@ void tst_settings::theCurrentProfileIsTheOneNamedByProfileId()
     QFETCH(std::uint32_t, expected);
     m_Config.PROFILE_ID = index;
     QCOMPARE(&CurrentProfile(), &m_Config.PROFILE[expected]);
+    QCOMPARE(CurrentProfileIndex(), expected);
     QCOMPARE(m_Config.PROFILE_ID, index);
 }
 

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void aNewFileIsForEveryoneToRead();
     void anOldFileKeepsItsPermissions();
     void theOldFileIsReplacedNotOverwritten();
+    void withoutWaitingForTheDiskItIsReplacedInOneStepToo();
     void writingOverAFolderLeavesNothingBehind();
     void writingIntoAMissingFolderFails();
     void aWriteThatRunsOutOfRoomKeepsTheOldFile();
@@ -116,6 +117,26 @@ void tst_files::theOldFileIsReplacedNotOverwritten()
     QVERIFY(writeFileAtomically(path("file"), "new bytes"));
     QCOMPARE(reader.readAll(), QByteArray("old"));
     QCOMPARE(contents(path("file")), std::string("new bytes"));
+}
+
+void tst_files::withoutWaitingForTheDiskItIsReplacedInOneStepToo()
+{
+    QVERIFY(writeFileAtomically(path("file"), "old", Flush::Later));
+    QCOMPARE(::chmod(path("file").c_str(), 0640), 0);
+    QFile reader(QString::fromStdString(path("file")));
+    QVERIFY(reader.open(QIODevice::ReadOnly));
+    QVERIFY(writeFileAtomically(path("file"), "new bytes", Flush::Later));
+    QCOMPARE(reader.readAll(), QByteArray("old"));
+    QCOMPARE(contents(path("file")), std::string("new bytes"));
+    QCOMPARE(permissionsOf(path("file")), mode_t{0640});
+    bool written = true;
+    {
+        const FileSizeLimit limit(50);
+        written = writeFileAtomically(path("file"), std::string(51, 'x'), Flush::Later);
+    }
+    QVERIFY(!written);
+    QCOMPARE(contents(path("file")), std::string("new bytes"));
+    QCOMPARE(names(), QStringList{QStringLiteral("file")});
 }
 
 void tst_files::writingOverAFolderLeavesNothingBehind()

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void aLineIsFormattedAsPrintfDoes();
     void aLongLineIsKeptWhole();
     void perCentSignsInArgumentsAreKept();
+    void controlCharactersBecomeBlanks_data();
+    void controlCharactersBecomeBlanks();
     void aLineGoesToStandardErrorAtOnce();
     void aSinkTakesTheLinesUntilItIsTakenAway();
     void aNamedProgramSaysItsNameFirst();
@@ -60,6 +62,42 @@ void tst_systemlog::perCentSignsInArgumentsAreKept()
 {
     const QByteArray written = standardErrorOf([] { systemLog("%s", "100%s%n"); });
     QCOMPARE(written, QByteArray("100%s%n\n"));
+}
+
+void tst_systemlog::controlCharactersBecomeBlanks_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("logged");
+    const auto row = [](const char *name, const char *text, const char *logged) {
+        QTest::newRow(name) << QByteArray(text) << QByteArray(logged);
+    };
+    row("lines", "a\nb\r\nc\n", "a b  c ");
+    row("an escape", "\x1b[2Ja\x07", " [2Ja ");
+    row("the first and the last", "\x01\x1F\x7F", "   ");
+    row("no control", " !~", " !~");
+    row("those of Latin 1",
+        "a\xC2\x80\xC2\x9F"
+        "b",
+        "a  b");
+    row("letters of Latin 1", "\xC2\xA0\xC2\xBF\xC3\x80\xC3\x9F",
+        "\xC2\xA0\xC2\xBF\xC3\x80\xC3\x9F");
+    row("other letters", "\xE7\x81\xAB \xF0\x9F\x90\x89 \xD0\x82",
+        "\xE7\x81\xAB \xF0\x9F\x90\x89 \xD0\x82");
+    row("half a character", "a\xC2", "a\xC2");
+    row("no text", "\xFF\x80\x9B", "\xFF\x80\x9B");
+}
+
+void tst_systemlog::controlCharactersBecomeBlanks()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, logged);
+    {
+        const LogCapture log;
+        systemLog("%s", text.constData());
+        QCOMPARE(QByteArray::fromStdString(log.lines.front()), logged);
+    }
+    const QByteArray written = standardErrorOf([&] { systemLog("%s", text.constData()); });
+    QCOMPARE(written, logged + '\n');
 }
 
 void tst_systemlog::aLineGoesToStandardErrorAtOnce()
