@@ -9,6 +9,7 @@ class tst_urlloading : public QObject
 private Q_SLOTS:
     void aRequestIsTheseLines();
     void aContentIsFetchedPastCaches();
+    void noCookieComesBack();
     void anAddressGoesOutAsItStands_data();
     void anAddressGoesOutAsItStands();
     void aWholeBodyIsToldOf_data();
@@ -76,6 +77,21 @@ void tst_urlloading::aContentIsFetchedPastCaches()
     QCOMPARE(fetched, (QByteArrayList{"Cache-Control: no-cache", "Pragma: no-cache"}));
 }
 
+void tst_urlloading::noCookieComesBack()
+{
+    LoaderStage stage;
+    stage.server.answer(
+        "/", webAnswer("", "302 Found", "Set-Cookie: name=value; Path=/\r\nLocation: /there\r\n"));
+    stage.server.answer("/there", webAnswer("body", "200 OK", "Set-Cookie: name=value\r\n"));
+    QVERIFY(stage.load("/"));
+    WebDelegate second;
+    QVERIFY(stage.loader->start(stage.server.url("/there"), second));
+    QVERIFY(second.waitForEnd());
+    QCOMPARE(stage.server.count(), std::size_t{3});
+    for (std::size_t visit = 0; visit < 3; ++visit)
+        QVERIFY(!stage.server.visit(visit).request().toLower().contains("cookie"));
+}
+
 void tst_urlloading::anAddressGoesOutAsItStands_data()
 {
     QTest::addColumn<std::string>("path");
@@ -139,7 +155,7 @@ void tst_urlloading::aWholeBodyIsToldOf()
 void tst_urlloading::aRefusalFinishesLikeAnyOther_data()
 {
     QTest::addColumn<int>("status");
-    for (const int status : {400, 401, 403, 404, 405, 409, 410, 418, 500, 501, 503, 599})
+    for (const int status : {400, 401, 403, 404, 405, 407, 409, 410, 418, 500, 501, 503, 599})
         QTest::addRow("%d", status) << status;
 }
 
@@ -185,7 +201,7 @@ void tst_urlloading::aRedirectIsFollowedWithoutItsBody()
     QVERIFY(stage.load());
     QVERIFY(stage.delegate.hasFinished());
     QCOMPARE(stage.delegate.body, std::string("body"));
-    QCOMPARE(stage.delegate.statuses.back(), 200);
+    QCOMPARE(stage.delegate.statuses, std::vector{200});
     QCOMPARE(stage.server.paths(), (std::vector<QByteArray>{"/", "/second"}));
     QCOMPARE(other.paths(), std::vector<QByteArray>{"/third"});
     QVERIFY(other.last().request().contains("User-Agent: KyrMGUI2\r\n"));

@@ -3,6 +3,7 @@
 #include "platform/urlloading.h"
 #include "support/webserver.h"
 
+#include <QtCore/QEventLoop>
 #include <QtTest/QTest>
 
 /// Keeps what it is told of a request.
@@ -25,9 +26,14 @@ struct WebDelegate final : UrlConnectionDelegate
     }
     void connectionDidFinishLoading() override { end(); }
 
-    bool waitForEnd() const
+    /// False when the end does not come in time. It is waited for on an event loop of its own:
+    /// Qt Test's sleeps between its turns, and a long body takes many.
+    bool waitForEnd()
     {
-        return QTest::qWaitFor([this] { return ends > 0; });
+        QTimer::singleShot(std::chrono::seconds(30), &m_waiting, &QEventLoop::quit);
+        if (ends == 0)
+            m_waiting.exec();
+        return ends > 0;
     }
     bool hasFinished() const { return ends == 1 && !error; }
     bool hasFailed() const { return ends == 1 && error && !error->description.empty(); }
@@ -43,9 +49,12 @@ private:
     void end()
     {
         ++ends;
+        m_waiting.quit();
         if (atEnd)
             atEnd();
     }
+
+    QEventLoop m_waiting;
 };
 
 /// A web server, a loader that gives up after `timeout` of silence, and a delegate.
