@@ -15,7 +15,7 @@ namespace {
 constexpr int kSlice = 8;
 
 /// What is logged of a line; no reply of the service has one as long.
-constexpr std::size_t kMostLogged = 16 * 1024;
+constexpr std::size_t kMostLogged = 16U << 10U;
 
 /// By the C library: the standard one's search is ten times as long on a line made to be slow.
 bool contains(std::string_view line, std::string_view word)

@@ -125,7 +125,7 @@ ImageHead jpegHead(const Reader &file)
 struct Kind
 {
     QByteArrayView mark;
-    ImageHead (*head)(const Reader &file);
+    ImageHead (*head)(const Reader &file) = nullptr;
 };
 
 bool isPng(const QByteArray &bytes)

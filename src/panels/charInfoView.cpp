@@ -52,10 +52,10 @@ constexpr auto kRegionNames = regionNames();
 
 struct charInfoView::FieldRow
 {
-    const char *name;
+    const char *name = "";
     UpRect rect;
-    const char *description;
-    decltype(&CharacterInfo::SERVER) field;
+    const char *description = "";
+    decltype(&CharacterInfo::SERVER) field = nullptr;
 };
 
 const std::array<charInfoView::FieldRow, charInfoView::kFieldCount> charInfoView::kFields = {{

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr std::size_t kMostOverhead = 64 * 1024;
+constexpr std::size_t kMostOverhead = 64U << 10U;
 
 bool isBlank(char c)
 {

@@ -9,7 +9,7 @@ constexpr int kHttpPort = 80;
 constexpr int kHttpsPort = 443;
 
 /// What is taken from a connection at a time, so that the windows are never held up.
-constexpr qint64 kAtATime = 64 * 1024;
+constexpr qint64 kAtATime = 64 << 10;
 
 QUrl parsed(const std::string &url)
 {

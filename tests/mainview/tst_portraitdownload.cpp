@@ -154,6 +154,7 @@ void tst_portraitdownload::aNameThatIsNoneOfAPortraitIsNotWritten_data()
     QTest::newRow("settings") << std::string("KT7R4Setting.xml");
     QTest::newRow("settings, letters") << std::string("kt7r4setting.XML");
     QTest::newRow("kept settings") << std::string("KT7R4Setting.xml.unreadable");
+    QTest::newRow("kept settings, letters") << std::string("kt7r4setting.XML.unreadable");
     QTest::newRow("profile") << std::string("x.xml");
     QTest::newRow("profile, letters") << std::string("x.Xml");
 }

@@ -1,6 +1,9 @@
 #include "support/suite.h"
 #include "webdelegate.h"
 
+#include <netinet/in.h>
+#include <unistd.h>
+
 /// How much the loader takes, how long it waits, and its own end.
 class tst_urlloadinglimits : public QObject
 {
@@ -15,6 +18,7 @@ private Q_SLOTS:
     void anEndlessRedirectIsFollowedAtOnce();
     void silenceFails_data();
     void silenceFails();
+    void aHostThatTakesNoConnectionIsSilent();
     void aByteNowAndThenIsNoSilence();
     void aSlowHeadIsNoSilence();
     void theLoadersEndIsToldToNobody_data();
@@ -28,6 +32,41 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr qsizetype kMostOfABody = UrlLoader::kMostBytes;
+
+/// A port where more have connected than the system lets wait.
+class BusyHost
+{
+public:
+    BusyHost()
+    {
+        socklen_t size = sizeof m_address;
+        m_address.sin_family = AF_INET;
+        m_address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        if (::bind(m_listening, address(), size) != 0 || ::listen(m_listening, 0) != 0 ||
+            ::getsockname(m_listening, address(), &size) != 0)
+            qFatal("no port for the test's busy host");
+        for (const int guest : m_guests)
+            ::connect(guest, address(), size);
+    }
+    ~BusyHost()
+    {
+        for (const int guest : m_guests)
+            ::close(guest);
+        ::close(m_listening);
+    }
+    BusyHost(const BusyHost &) = delete;
+    BusyHost &operator=(const BusyHost &) = delete;
+
+    int port() const { return ntohs(m_address.sin_port); }
+
+private:
+    static int newSocket() { return ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0); }
+    sockaddr *address() { return reinterpret_cast<sockaddr *>(&m_address); }
+
+    sockaddr_in m_address = {};
+    const int m_listening = newSocket();
+    const std::array<int, 4> m_guests{newSocket(), newSocket(), newSocket(), newSocket()};
+};
 
 QByteArray chunkOf(qsizetype size)
 {
@@ -143,6 +182,16 @@ void tst_urlloadinglimits::silenceFails()
     QVERIFY(stage.load("/", [&](WebVisit &visit) { visit.send(said); }));
     QVERIFY(stage.delegate.hasFailed());
     QTRY_VERIFY(!stage.server.last().isOpen());
+}
+
+void tst_urlloadinglimits::aHostThatTakesNoConnectionIsSilent()
+{
+    const BusyHost host;
+    UrlLoader loader(200ms);
+    WebDelegate delegate;
+    QVERIFY(loader.start("http://127.0.0.1:" + std::to_string(host.port()) + '/', delegate));
+    QVERIFY(delegate.waitForEnd());
+    QCOMPARE(delegate.error.value_or(UrlError()).description, std::string("the host is silent"));
 }
 
 void tst_urlloadinglimits::aByteNowAndThenIsNoSilence()
