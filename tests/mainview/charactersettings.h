@@ -3,16 +3,16 @@
 #include "model/fixedtext.h"
 #include "model/settings.h"
 
-#include <string_view>
+#include <string>
 
 /// A character as a lookup leaves it.
 struct KnownCharacter
 {
-    std::string_view name = {};
-    std::string_view realm = {};
-    std::string_view className = {};
+    std::string name = {};
+    std::string realm = {};
+    std::string className = {};
     std::uint32_t level = 0;
-    std::string_view portrait = {};
+    std::string portrait = {};
     std::uint32_t region = 0;
 };
 

@@ -29,7 +29,7 @@ namespace {
 const BadgeTexts kAnnsTexts{QStringLiteral("Ann"), QStringLiteral("Level 80"),
                             QStringLiteral("Mage"), QStringLiteral("Silver Hand")};
 
-KnownCharacter annWith(std::string_view portrait)
+KnownCharacter annWith(const std::string &portrait)
 {
     return {.name = "Ann",
             .realm = "Silver Hand",

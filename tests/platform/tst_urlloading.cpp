@@ -19,6 +19,7 @@ private Q_SLOTS:
     void whatIsPackedStaysPacked();
     void aRedirectIsFollowedWithoutItsBody_data();
     void aRedirectIsFollowedWithoutItsBody();
+    void aRedirectToASecureConnectionAsksForOne();
 };
 
 namespace {
@@ -205,6 +206,28 @@ void tst_urlloading::aRedirectIsFollowedWithoutItsBody()
     QCOMPARE(stage.server.paths(), (std::vector<QByteArray>{"/", "/second"}));
     QCOMPARE(other.paths(), std::vector<QByteArray>{"/third"});
     QVERIFY(other.last().request().contains("User-Agent: KyrMGUI2\r\n"));
+}
+
+/// A server that does not speak the secure protocol sees its greeting.
+void tst_urlloading::aRedirectToASecureConnectionAsksForOne()
+{
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    QByteArray greeting;
+    connect(&server, &QTcpServer::newConnection, &server, [&] {
+        QTcpSocket *const guest = server.nextPendingConnection();
+        connect(guest, &QIODevice::readyRead, guest, [&greeting, guest] {
+            greeting += guest->readAll();
+            guest->disconnectFromHost();
+        });
+    });
+    const QByteArray there = "https://127.0.0.1:" + QByteArray::number(server.serverPort()) + "/x";
+    LoaderStage stage;
+    stage.server.answer("/", webAnswer("here", "302 Found", "Location: " + there + "\r\n"));
+    QVERIFY(stage.load());
+    QVERIFY(stage.delegate.hasFailed());
+    QCOMPARE(stage.delegate.error->failingUrl, there.toStdString());
+    QVERIFY2(greeting.startsWith("\x16\x03"), greeting.toHex());
 }
 
 KYR_CORE_TEST(tst_urlloading)
