@@ -3,8 +3,7 @@
 #include "controls/popuplist.h"
 #include "support/logcapture.h"
 #include "support/pointer.h"
-
-#include <QtWidgets/QApplication>
+#include "support/popups.h"
 
 #include <array>
 #include <memory>
@@ -82,15 +81,7 @@ public:
     void activate() const { activate(*window); }
 
     /// What is open, of all stages. What is closed may live a moment longer.
-    static std::vector<QWidget *> windows()
-    {
-        std::vector<QWidget *> found;
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == QLatin1String("pListbox") && window->isVisible())
-                found.push_back(window);
-        }
-        return found;
-    }
+    static std::vector<QWidget *> windows() { return openLists(); }
     static std::size_t openCount() { return windows().size(); }
 
     /// The toolkit calls a window active too while one that belongs to it has the keyboard.
@@ -116,12 +107,6 @@ private:
             qFatal("the window does not get the keyboard");
     }
 };
-
-/// The middle of a row, in the list.
-inline QPoint rowPoint(int row)
-{
-    return {30, PopupStage::kRowHeight * row + PopupStage::kRowHeight / 2};
-}
 
 /// A click that leaves what it has put off undone: sent directly, while clicks on a window let the
 /// event loop run.

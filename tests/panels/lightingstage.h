@@ -4,6 +4,7 @@
 #include "panels/pngcolorlist.h"
 #include "panelstage.h"
 #include "support/pictures.h"
+#include "support/popups.h"
 
 inline constexpr const KnownBar &kBottomBar = kKnownBars[2];
 
@@ -81,19 +82,10 @@ inline void lightLevelCodeRows()
     }
 }
 
-/// The windows with something to choose from that are open, by name. One that is closed may live a
-/// moment longer.
+/// The windows with something to choose from that are open.
 inline std::vector<QWidget *> openPopups()
 {
-    std::vector<QWidget *> popups;
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        const QString name = window->objectName();
-        const bool isPopup = name == QLatin1String(kColorLight.popup) ||
-                             name == QLatin1String(kIntensityLight.popup);
-        if (isPopup && window->isVisible())
-            popups.push_back(window);
-    }
-    return popups;
+    return openWindows({kColorLight.popup, kIntensityLight.popup});
 }
 
 /// What has been opened from a control, once it has the keyboard.
@@ -104,12 +96,6 @@ inline QWidget &opened(const KnownLight &known)
         !QTest::qWaitForWindowActive(popups[0]))
         qFatal("nothing opens from %s", known.name);
     return *PanelsStage::part(popups[0], known.content);
-}
-
-/// The middle of a row of a list of levels.
-inline QPoint levelPoint(int row)
-{
-    return {30, 20 * row + 10};
 }
 
 inline void setColour(ProfileInfo &profile, const QColor &colour)

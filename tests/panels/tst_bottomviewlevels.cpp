@@ -45,7 +45,7 @@ struct LightLevelStage : LightingStage
 
     void choose(const KnownLightLevel &known, int row) const
     {
-        pointer::click(openLevels(known), levelPoint(row));
+        pointer::click(openLevels(known), rowPoint(row));
     }
     /// The code of the profile that is the third one.
     static std::uint32_t &code(const KnownLightLevel &known)
@@ -154,7 +154,7 @@ void tst_bottomviewlevels::aListOfAnotherNumberOnlyCountsAsAChange()
     pngListBox &list = stage.openLevels(*known);
     const auto before = std::make_unique<ConfigData>(m_Config);
     list.setTag(4103);
-    pointer::click(list, levelPoint(3));
+    pointer::click(list, rowPoint(3));
     QCoreApplication::processEvents();
     QCOMPARE(std::memcmp(&m_Config, before.get(), sizeof m_Config), 0);
     QCOMPARE(stage.caption(known->light), QStringLiteral("Medium"));
@@ -169,7 +169,7 @@ void tst_bottomviewlevels::aChoiceGoesIntoTheProfileShownByThen()
     LightLevelStage stage;
     const pngListBox &list = stage.openLevels(*known);
     stage.program.reportProfile(5);
-    pointer::click(list, levelPoint(3));
+    pointer::click(list, rowPoint(3));
     QCOMPARE(m_Config.PROFILE[4].*known->field, 3U);
     QCOMPARE(LightLevelStage::code(*known), 1U);
     QCOMPARE(stage.caption(known->light), QStringLiteral("Off"));
