@@ -15,13 +15,16 @@ if(KYR_SANITIZE)
     target_link_options(kyr_flags INTERFACE ${sanitizers})
 endif()
 
+option(KYR_TOGETHER "Compile the sources of a room in one go" ON)
+
 # kyr_room(NAME SOURCES ... [APART ...] LINK ...): a static library of one folder's sources. They are
 # compiled in one go, which takes half the time, but for those APART: files with names of their own
 # that others of the room have too.
 function(kyr_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;APART;LINK" ${ARGN})
     add_library(kyr_${name} STATIC ${ROOM_SOURCES} ${ROOM_APART})
-    set_target_properties(kyr_${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0)
+    set_target_properties(kyr_${name} PROPERTIES
+        UNITY_BUILD ${KYR_TOGETHER} UNITY_BUILD_BATCH_SIZE 0)
     set_source_files_properties(${ROOM_APART} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     target_link_libraries(kyr_${name} PUBLIC kyr_flags ${ROOM_LINK})
     kyr_share_headers(kyr_${name} source)
