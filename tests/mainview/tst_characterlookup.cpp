@@ -101,7 +101,7 @@ void tst_characterlookup::bytesThatAreNoTextAreEscapedAndLogged()
     QFETCH(std::string, realm);
     QFETCH(std::string, name);
     LookupStage stage;
-    stage.setCharacter(realm, name);
+    LookupStage::setCharacter(realm, name);
     stage.ask();
     QTEST(stage.log.lines, "logged");
     QFETCH(QByteArray, path);
@@ -143,7 +143,7 @@ void tst_characterlookup::aRegionThatIsNoneIsNotAsked()
 {
     QFETCH(std::uint32_t, region);
     LookupStage stage;
-    stage.setCharacter("\xE4", "Name", region);
+    LookupStage::setCharacter("\xE4", "Name", region);
     for (const int code : {kCharInfoOK, kCharInfoCancel, kCharInfoClose})
         stage.view().CharInfoAction(code);
     QVERIFY(stage.requested().empty());

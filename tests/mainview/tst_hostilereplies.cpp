@@ -97,7 +97,7 @@ void tst_hostilereplies::aLongLineIsLoggedInPart()
     stage.service.answer(kCharacter, webAnswer(QByteArray(kMostOfAReply, 'x')));
     stage.ask();
     QTRY_COMPARE(stage.log.lines.size(), std::size_t{2});
-    QCOMPARE(stage.log.lines.back(), std::string(16 * 1024, 'x'));
+    QCOMPARE(stage.log.lines.back(), std::string(std::size_t{16} * 1024, 'x'));
 }
 
 void tst_hostilereplies::whatComesLastInAMillionLinesIsFound()

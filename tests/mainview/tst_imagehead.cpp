@@ -32,7 +32,9 @@ namespace {
 
 QByteArray number(quint32 value)
 {
-    return QByteArray(reinterpret_cast<const char *>(&(value = qToBigEndian(value))), 4);
+    QByteArray bytes(4, '\0');
+    qToBigEndian(value, bytes.data());
+    return bytes;
 }
 
 QByteArray chunk(const char *name, const QByteArray &data)
@@ -43,7 +45,9 @@ QByteArray chunk(const char *name, const QByteArray &data)
 
 QByteArray smallNumber(quint16 value)
 {
-    return QByteArray(reinterpret_cast<const char *>(&(value = qToLittleEndian(value))), 2);
+    QByteArray bytes(2, '\0');
+    qToLittleEndian(value, bytes.data());
+    return bytes;
 }
 
 /// A GIF's beginning: its screen, `between`, and a picture's place and size.
@@ -188,7 +192,7 @@ void tst_imagehead::anImageCutAnywhereIsReadWithinItsBytes()
         const std::unique_ptr<char[]> part(new char[static_cast<std::size_t>(size)]);
         std::copy_n(file.constData(), size, part.get());
         const QByteArray bytes = QByteArray::fromRawData(part.get(), size);
-        QVERIFY(imageHead(bytes).pixels <= 768 * 768);
+        QVERIFY(imageHead(bytes).pixels <= std::int64_t{768} * 768);
         QVERIFY(pixelsOnly(bytes).size() <= size);
     }
 }
