@@ -113,18 +113,7 @@ struct CharInfoStage
     pngListBox &openList() const
     {
         pointer::click(region());
-        return shownList();
-    }
-    /// The list that was just opened, once it has the keyboard.
-    static pngListBox &shownList()
-    {
-        if (openLists().size() != 1)
-            qFatal("the list of regions does not open");
-        auto *const list =
-            openLists().front()->findChild<pngListBox *>(QStringLiteral("pListboxView"));
-        if (!QTest::qWaitFor([list] { return list->hasFocus(); }))
-            qFatal("the list of regions does not get the keyboard");
-        return *list;
+        return openedList();
     }
 
     bool clickOpens() const

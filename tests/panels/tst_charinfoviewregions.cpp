@@ -95,7 +95,7 @@ void tst_charinfoviewregions::aChoiceByKeyAnswersNothingElse()
     stage.fill();
     keyboard::tabTo(stage.region());
     keyboard::press(Qt::Key_Space);
-    CharInfoStage::shownList();
+    openedList();
     keyboard::press(Qt::Key_Down);
     keystroke::press(keystroke::kReturn);
     QTRY_VERIFY(openLists().empty());

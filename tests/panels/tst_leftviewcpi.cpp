@@ -81,7 +81,7 @@ void tst_leftviewcpi::spaceOpensTheListToo()
     for (const std::uint32_t code : {3U, 4U}) {
         stage.forget();
         keyboard::press(Qt::Key_Space);
-        OpenLevelStage::shownList();
+        openedList();
         keyboard::press(Qt::Key_Down);
         keyboard::press(Qt::Key_Return);
         QTRY_VERIFY(openLists().empty());
@@ -101,7 +101,7 @@ void tst_leftviewcpi::theFrameShowsInAListOpenedByKeyOnly()
     keyboard::tabTo(stage.cpi());
     keyboard::press(Qt::Key_Space);
     const QRect selectedRow(0, 40, 101, 20);
-    QCOMPARE(extentOf(shown(OpenLevelStage::shownList()), kGold), selectedRow);
+    QCOMPARE(extentOf(shown(openedList()), kGold), selectedRow);
 }
 
 void tst_leftviewcpi::whileTheListShowsTheButtonDoesNothing()

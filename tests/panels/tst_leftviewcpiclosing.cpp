@@ -107,7 +107,7 @@ void tst_leftviewcpiclosing::afterTheKeyboardTheListOpensAgainAtOnce()
     keyboard::tabTo(stage.cpi());
     for (int time = 0; time < 3; ++time) {
         keyboard::press(Qt::Key_Space);
-        OpenLevelStage::shownList();
+        openedList();
         keyboard::press(Qt::Key_Escape);
         QTRY_VERIFY(openLists().empty());
         QTRY_VERIFY(stage.leftIsKey());

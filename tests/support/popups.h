@@ -3,6 +3,7 @@
 #include "controls/pngListBox.h"
 #include "support/pointer.h"
 
+#include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
@@ -26,6 +27,17 @@ inline std::vector<QWidget *> openWindows(std::initializer_list<const char *> na
 inline std::vector<QWidget *> openLists()
 {
     return openWindows({"pListbox"});
+}
+
+/// The list that was just opened, once it has the keyboard.
+inline pngListBox &openedList()
+{
+    if (openLists().size() != 1)
+        qFatal("the list does not open");
+    auto *const list = openLists().front()->findChild<pngListBox *>(QStringLiteral("pListboxView"));
+    if (!QTest::qWaitFor([list] { return list->hasFocus(); }))
+        qFatal("the list does not get the keyboard");
+    return *list;
 }
 
 /// The middle of a row of a list.
