@@ -69,9 +69,32 @@ void PopupList::attachTo(QAbstractButton &button)
 void PopupList::pressed()
 {
     // The desktop may tell of the press before or after it has taken the keyboard away for it.
-    const bool justLost = m_sinceLost.isValid() && !m_sinceLost.hasExpired(kPressDelay);
-    m_isClosingPress = isOpen() || justLost;
+    m_isClosingPress = isOpen() || hasJustLost();
     m_sinceLost.invalidate();
+}
+
+bool PopupList::hasJustLost() const
+{
+    return m_sinceLost.isValid() && !m_sinceLost.hasExpired(kPressDelay);
+}
+
+/// Of a list: the press that took the keyboard away may still have to be told.
+void PopupList::keyboardLost(QWidget &keyWindow)
+{
+    m_sinceLost.start();
+    m_keyWindow = &keyWindow;
+    QApplication::instance()->installEventFilter(this);
+}
+
+bool PopupList::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        QApplication::instance()->removeEventFilter(this);
+        // The toolkit gives the keyboard to the pressed window where that has lost it meanwhile.
+        if (m_keyWindow && hasJustLost())
+            m_keyWindow->activateWindow();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void PopupList::open(const HoverButton &button, const Rows &rows,
@@ -134,7 +157,7 @@ void PopupList::close(QWidget &keyWindow)
         pListboxView->observeWindowKeyChangeStop();
     // The press that takes the keyboard away may have been told before.
     if (QApplication::activeWindow() != pListbox && !m_isClosingPress)
-        m_sinceLost.start();
+        keyboardLost(keyWindow);
     // While the list still stands: without it no window of the program would have the keyboard.
     giveKeyboardTo(keyWindow);
     if (pListbox)

@@ -57,8 +57,13 @@ public:
     /// Nothing when no window is open.
     void close(QWidget &keyWindow);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     bool isOpen() const;
+    bool hasJustLost() const;
+    void keyboardLost(QWidget &keyWindow);
     void sendClose(const QPointer<custumwindow> &chosenIn);
     void giveKeyboardTo(QWidget &keyWindow) const;
 
@@ -68,6 +73,7 @@ private:
     Action<PopupContent *> m_closeAction;
     bool m_isClosingPress = false;   ///< the last press took the keyboard from a list
     QElapsedTimer m_sinceLost;       ///< runs from a list's loss of the keyboard to the next press
+    QPointer<QWidget> m_keyWindow;   ///< had the keyboard after that loss
     DoubleClickGuard m_secondClicks; ///< for those who double click a row
 };
 

@@ -14,6 +14,10 @@ private Q_SLOTS:
     void aPressLongAfterTheLossOpensAgain();
     void aPressRightAfterAnEndByTheListItselfOpensAgain_data();
     void aPressRightAfterAnEndByTheListItselfOpensAgain();
+    void thePressThatTookTheKeyboardLeavesItWithTheNamedWindow();
+    void theNextPressTakesTheKeyboard();
+    void aPressLongAfterTheLossTakesTheKeyboard();
+    void theNamedWindowMayBeGoneAtThePress();
 };
 
 namespace {
@@ -22,12 +26,34 @@ namespace {
 /// milliseconds.
 constexpr int kSamePress = 200;
 
+/// A stage whose lists give the keyboard to another window than their button's.
+struct NamedStage : PopupStage
+{
+    NamedStage()
+    {
+        named->show();
+        activate();
+        keyWindow = named.get();
+    }
+
+    /// The window takes the keyboard as the toolkit makes it do for a press there, which follows.
+    void pressWindow() const
+    {
+        activate();
+        pointer::press(*window, QPoint(5, 5));
+        pointer::release(*window, QPoint(5, 5));
+    }
+
+    std::unique_ptr<QWidget> named = std::make_unique<QWidget>();
+};
+
 /// Opens the list and lets the window take the keyboard from it.
 void openAndLose(PopupStage &stage)
 {
     stage.opened();
-    stage.activate();
-    QCOMPARE(PopupStage::openCount(), 0U);
+    stage.window->activateWindow();
+    QTRY_COMPARE(PopupStage::openCount(), 0U);
+    QTRY_VERIFY(PopupStage::hasKeyboard(*stage.keyWindow));
 }
 
 } // namespace
@@ -112,6 +138,49 @@ void tst_popuppresses::aPressRightAfterAnEndByTheListItselfOpensAgain()
     QTRY_COMPARE(PopupStage::openCount(), 0U);
     pointer::click(*stage.button);
     QCOMPARE(PopupStage::openCount(), 1U);
+}
+
+void tst_popuppresses::thePressThatTookTheKeyboardLeavesItWithTheNamedWindow()
+{
+    QElapsedTimer sinceBefore;
+    // On a busy machine the press may come too late: then once more.
+    do {
+        NamedStage stage;
+        sinceBefore.start();
+        openAndLose(stage);
+        stage.pressWindow();
+        if (!sinceBefore.hasExpired(kSamePress))
+            QTRY_VERIFY(PopupStage::hasKeyboard(*stage.named));
+    } while (sinceBefore.hasExpired(kSamePress));
+}
+
+void tst_popuppresses::theNextPressTakesTheKeyboard()
+{
+    NamedStage stage;
+    openAndLose(stage);
+    stage.pressWindow();
+    stage.pressWindow();
+    QVERIFY(keepsKeyboard(*stage.window));
+}
+
+void tst_popuppresses::aPressLongAfterTheLossTakesTheKeyboard()
+{
+    NamedStage stage;
+    openAndLose(stage);
+    QElapsedTimer sinceLost;
+    sinceLost.start();
+    QTRY_VERIFY(sinceLost.hasExpired(kSamePress));
+    stage.pressWindow();
+    QVERIFY(keepsKeyboard(*stage.window));
+}
+
+void tst_popuppresses::theNamedWindowMayBeGoneAtThePress()
+{
+    NamedStage stage;
+    openAndLose(stage);
+    stage.named.reset();
+    stage.pressWindow();
+    QVERIFY(keepsKeyboard(*stage.window));
 }
 
 KYR_GUI_TEST(tst_popuppresses)

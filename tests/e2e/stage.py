@@ -35,14 +35,16 @@ MENU_TITLES = {"BtnProfileMenu": "Profile menu", "BtnToolsMenu": "Tools menu",
 
 
 def wait_for(condition, what, seconds=20):
-    """Waits until the condition gives something true, and gives that."""
+    """Waits until the condition gives something true, and gives that. Where `what` can be called,
+    it tells in the end what was waited for."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         result = condition()
         if result:
             return result
         time.sleep(0.01)
-    raise AssertionError(f"waited {seconds} s in vain: {what}")
+    text = what() if callable(what) else what
+    raise AssertionError(f"waited {seconds} s in vain: {text}")
 
 
 class Program:
@@ -223,7 +225,8 @@ class Stage:
         return self.output("xdotool", "getactivewindow", "getwindowname").strip()
 
     def wait_for_active(self, title):
-        wait_for(lambda: self.active_title() == title, f"{title!r} as the active window")
+        wait_for(lambda: self.active_title() == title,
+                 lambda: f"{title!r} as the active window, which is {self.active_title()!r}")
 
     def move_to(self, x, y):
         # Asked to wait for a move to where the pointer is, the tool waits in vain for 15 seconds.
