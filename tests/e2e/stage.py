@@ -123,6 +123,9 @@ class Stage:
             number = pipe.readline().strip()
         assert number, "the virtual X server did not start"
         self.environment["DISPLAY"] = f":{number}"
+        # With the first key ever pressed the server takes over the keyboard of the tool: programs
+        # that run already set up their keys anew, and what is typed meanwhile may be lost to them.
+        self.key("Shift_L")
 
     def start_bus(self):
         bus = subprocess.Popen(
@@ -224,8 +227,13 @@ class Stage:
     def active_title(self):
         return self.output("xdotool", "getactivewindow", "getwindowname").strip()
 
+    def is_active(self, title):
+        """A window that is gone is named as the active one until its end has come round."""
+        window = self.output("xdotool", "getactivewindow").strip()
+        return window and self.is_visible(window, title)
+
     def wait_for_active(self, title):
-        wait_for(lambda: self.active_title() == title,
+        wait_for(lambda: self.is_active(title),
                  lambda: f"{title!r} as the active window, which is {self.active_title()!r}")
 
     def move_to(self, x, y):
