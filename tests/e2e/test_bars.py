@@ -68,7 +68,11 @@ class RunningProgram(unittest.TestCase):
 
     def wait_for_arrangement(self, main=None):
         main = main or self.main()
-        wait_for(lambda: self.is_arranged(main), f"bars, open {self.open}, around {main}")
+        wait_for(lambda: self.is_arranged(main),
+                 lambda: f"bars, open {self.open}, around {main}: {self.frames()}")
+
+    def frames(self):
+        return {title: self.stage.frame(title) for title in (MAIN_TITLE, *BARS)}
 
     def handle_box(self, bar):
         left, top, _, _ = self.frame_of(bar, self.main())
