@@ -64,8 +64,10 @@ void BarSlide::advance(double openShare)
     if (!m_main || !m_bar || frameAt(openShare) != frameAt(end))
         return moveTo(openShare);
     moveTo(end);
+    // Stopped at its very end the animation tells of that, else not: the arrival is sent once.
+    const Action<> arrived = std::exchange(m_arrived, {});
     m_way.stop();
-    sendArrived();
+    arrived.send();
 }
 
 UpRect BarSlide::frameAt(double openShare) const
