@@ -25,7 +25,7 @@ BarSlide::BarSlide(BarSide side, custumwindow &main, custumwindow &bar)
     // An animation that is being set up tells values too.
     connect(&m_way, &QVariantAnimation::valueChanged, this, [this](const QVariant &share) {
         if (isMoving())
-            advance(share.toDouble());
+            moveTo(share.toDouble());
     });
     connect(&m_way, &QVariantAnimation::finished, this, &BarSlide::sendArrived);
 }
@@ -56,30 +56,11 @@ void BarSlide::follow()
     moveTo(m_openShare);
 }
 
-/// Ends with the step that brings the bar to its place: those left would move it by less than a
-/// point, while it already looks as if it could be used.
-void BarSlide::advance(double openShare)
-{
-    const double end = m_way.endValue().toDouble();
-    if (!m_main || !m_bar || frameAt(openShare) != frameAt(end))
-        return moveTo(openShare);
-    moveTo(end);
-    // Stopped at its very end the animation tells of that, else not: the arrival is sent once.
-    const Action<> arrived = std::exchange(m_arrived, {});
-    m_way.stop();
-    arrived.send();
-}
-
-UpRect BarSlide::frameAt(double openShare) const
-{
-    return barFrame(m_side, m_main->frame(), m_bar->frame(), openShare);
-}
-
 void BarSlide::moveTo(double openShare)
 {
     m_openShare = openShare;
     if (m_main && m_bar)
-        m_bar->setFrame(frameAt(openShare));
+        m_bar->setFrame(barFrame(m_side, m_main->frame(), m_bar->frame(), openShare));
 }
 
 void BarSlide::sendArrived()

@@ -25,8 +25,6 @@ public:
     void follow();
 
 private:
-    void advance(double openShare);
-    UpRect frameAt(double openShare) const;
     void moveTo(double openShare);
     void sendArrived();
 
