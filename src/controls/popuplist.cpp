@@ -91,7 +91,7 @@ bool PopupList::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::MouseButtonPress) {
         QApplication::instance()->removeEventFilter(this);
         // The toolkit gives the keyboard to the pressed window where that has lost it meanwhile.
-        if (m_keyWindow && hasJustLost())
+        if (m_keyWindow && hasJustLost() && !isAnotherOpen())
             m_keyWindow->activateWindow();
     }
     return QObject::eventFilter(watched, event);
@@ -166,10 +166,15 @@ void PopupList::close(QWidget &keyWindow)
 }
 
 /// Another list that is open, though perhaps not active yet, would close if it lost the keyboard.
-void PopupList::giveKeyboardTo(QWidget &keyWindow) const
+bool PopupList::isAnotherOpen() const
 {
     const auto isOther = [this](const QWidget *window) { return isOtherPopup(window, pListbox); };
-    if (std::ranges::any_of(QApplication::topLevelWidgets(), isOther))
+    return std::ranges::any_of(QApplication::topLevelWidgets(), isOther);
+}
+
+void PopupList::giveKeyboardTo(QWidget &keyWindow) const
+{
+    if (isAnotherOpen())
         return;
     // When the desktop has closed the list, no window of the program has the keyboard any more.
     const bool closedByDesktop = pListbox && pListbox->isHidden();

@@ -63,6 +63,7 @@ protected:
 private:
     bool isOpen() const;
     bool hasJustLost() const;
+    bool isAnotherOpen() const;
     void keyboardLost(QWidget &keyWindow);
     void sendClose(const QPointer<custumwindow> &chosenIn);
     void giveKeyboardTo(QWidget &keyWindow) const;

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void theNextPressTakesTheKeyboard();
     void aPressLongAfterTheLossTakesTheKeyboard();
     void theNamedWindowMayBeGoneAtThePress();
+    void aPressInAnotherListLeavesItOpen();
 };
 
 namespace {
@@ -181,6 +182,19 @@ void tst_popuppresses::theNamedWindowMayBeGoneAtThePress()
     stage.named.reset();
     stage.pressWindow();
     QVERIFY(keepsKeyboard(*stage.window));
+}
+
+void tst_popuppresses::aPressInAnotherListLeavesItOpen()
+{
+    PopupStage stage;
+    PopupStage other;
+    stage.opened();
+    other.open();
+    QTRY_COMPARE(stage.closings, 1);
+    pngListBox &list = PopupStage::list();
+    pointer::press(list, rowPoint(0));
+    QVERIFY(keepsKeyboard(*list.window()));
+    QCOMPARE(other.closings, 0);
 }
 
 KYR_GUI_TEST(tst_popuppresses)

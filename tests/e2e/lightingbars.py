@@ -2,10 +2,9 @@
 the lists they open lies on the screen, and what a player does with it."""
 
 import re
-import time
 
 from controlwindow import ControlWindow
-from stage import ROOT, ROW_HEIGHT, control_rectangles, wait_for
+from stage import ROOT, ROW_HEIGHT, control_rectangles, let_time_pass, wait_for
 
 # Each bar's title, the place of its handle from the main window's upper left corner, its open size.
 LEFT_BAR = "Mouse Properties", (-8, 320), (202, 452)
@@ -40,8 +39,7 @@ def colour_button():
 def let_pass():
     """Lets the time pass in which a press may be the one that has just taken the keyboard from a
     list: such a press opens nothing."""
-    end = time.monotonic() + SAME_PRESS
-    wait_for(lambda: time.monotonic() > end, "a later press")
+    let_time_pass(SAME_PRESS)
 
 
 class LevelBar(ControlWindow):

@@ -47,6 +47,12 @@ def wait_for(condition, what, seconds=20):
     raise AssertionError(f"waited {seconds} s in vain: {text}")
 
 
+def let_time_pass(seconds):
+    """Lets the time pass after which something that shows nowhere is over."""
+    end = time.monotonic() + seconds
+    wait_for(lambda: time.monotonic() > end, "time to pass")
+
+
 class Program:
     """A running program whose lines on standard error are kept."""
 

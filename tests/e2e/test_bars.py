@@ -4,10 +4,9 @@ slide open and shut, come and go with it, and stay out of the task switcher."""
 import pathlib
 import re
 import sys
-import time
 import unittest
 
-from stage import MAIN_TITLE, Stage, wait_for
+from stage import MAIN_TITLE, Stage, let_time_pass, wait_for
 
 TOOLS = pathlib.Path(sys.argv.pop(1)).resolve()
 LEFT = "Mouse Properties"
@@ -15,7 +14,9 @@ RIGHT = "Button Functions"
 BOTTOM = "Illumination Settings"
 BARS = (LEFT, RIGHT, BOTTOM)
 OTHER_TITLE = "Drag Stage"
-LAST_STEPS = 0.2  # seconds, in which a whole slide takes place
+# The right bar's handle comes with the end of its slide, a few steps after the one that brings the
+# bar to its place. In seconds, in which a whole slide takes place.
+LAST_STEPS = 0.2
 # Places off all controls, from the window's upper left corner.
 BACKGROUND = {MAIN_TITLE: (330, 570), LEFT: (5, 8), RIGHT: (5, 8), BOTTOM: (8, 5)}
 
@@ -37,13 +38,6 @@ def handle(bar, is_open):
     if bar == RIGHT:
         return 185 if is_open else 0, 133, 15, 195
     return 137, 83 if is_open else 0, 192, 15
-
-
-def let_handle_show():
-    """The right bar's comes only with the end of the slide, a few steps after the one that brings
-    the bar to its place."""
-    end = time.monotonic() + LAST_STEPS
-    wait_for(lambda: time.monotonic() > end, "the end of the slide")
 
 
 class RunningProgram(unittest.TestCase):
@@ -99,7 +93,7 @@ class RunningProgram(unittest.TestCase):
         self.open[bar] = not self.open[bar]
         self.wait_for_arrangement()
         if bar == RIGHT:
-            let_handle_show()
+            let_time_pass(LAST_STEPS)
 
     def open_all(self):
         for bar in BARS:
