@@ -180,7 +180,7 @@ def main(arguments):
     with only_tour(), settings_put_aside():
         play_main_job(programs, pictures)
         say("taking pictures of everything else")
-        take_pictures(SETTINGS, programs, tools, pictures)
+        take_pictures(SETTINGS, ((programs / "KyrGM",), (programs / "kt7r4d",)), tools, pictures)
     say(f"screenshots are in {arguments[2]}")
 
 
