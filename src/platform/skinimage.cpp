@@ -1,13 +1,11 @@
 #include "platform/skinimage.h"
 
+#include "platform/packedpicture.h"
 #include "platform/systemlog.h"
 
 #include <QtCore/QResource>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QImage>
 #include <QtGui/QPainter>
-
-#include <cstring>
 
 namespace {
 
@@ -17,41 +15,26 @@ int resolution()
     return qApp->devicePixelRatio() > 1.0 ? 2 : 1;
 }
 
-QString resourcePath(const char *name)
+/// Not a copy: the pictures lie in the program as they are.
+QByteArray packedPicture(const QByteArray &name)
 {
     const auto suffix = resolution() == 2 ? QLatin1String("@2x") : QLatin1String();
-    return QLatin1String(":/skin/") + QLatin1String(name) + suffix;
+    return QResource(QLatin1String(":/skin/") + QLatin1String(name) + suffix).uncompressedData();
 }
 
-/// Pixels as the build packs them: width and height as 32-bit numbers, then 32 bits a pixel,
-/// premultiplied. A packed picture of another size is none.
-QImage unpacked(const QByteArray &packed)
+QImage picture(const QByteArray &name)
 {
-    qint32 size[2] = {};
-    if (packed.size() < qsizetype(sizeof size))
-        return {};
-    std::memcpy(size, packed.constData(), sizeof size);
-    constexpr qsizetype bytesPerPixel = 4;
-    const qsizetype expected = size[0] * bytesPerPixel * size[1];
-    if (size[0] <= 0 || size[1] <= 0 || packed.size() != qsizetype(sizeof size) + expected)
-        return {};
-    // The image shares the bytes and lets them go with its last copy.
-    auto *const owner = new QByteArray(packed);
-    const auto *const pixels = reinterpret_cast<const uchar *>(owner->constData()) + sizeof size;
-    return {pixels,
-            size[0],
-            size[1],
-            size[0] * bytesPerPixel,
-            QImage::Format_ARGB32_Premultiplied,
-            [](void *bytes) { delete static_cast<QByteArray *>(bytes); },
-            owner};
+    const QByteArray packed = packedPicture(name);
+    const QByteArray base = packedBase(packed);
+    return base.isEmpty() ? unpackedWhole(packed)
+                          : unpackedOver(unpackedWhole(packedPicture(base)), packed);
 }
 
 } // namespace
 
 SkinImage SkinImage::named(const char *name)
 {
-    QImage image = unpacked(QResource(resourcePath(name)).uncompressedData());
+    QImage image = picture(name);
     if (image.isNull()) {
         systemLog("no skin image %s", name);
         return {};

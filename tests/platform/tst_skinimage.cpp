@@ -15,6 +15,7 @@ private Q_SLOTS:
     void anUnknownNameIsLoggedAndGivesNothing();
     void everyPictureHasItsSize_data();
     void everyPictureHasItsSize();
+    void aStateDiffersFromTheNormalOneOnlyInTheControls();
 };
 
 void tst_skinimage::aPartIsCutOutUpwards()
@@ -75,6 +76,18 @@ void tst_skinimage::everyPictureHasItsSize_data()
 void tst_skinimage::everyPictureHasItsSize()
 {
     QTEST(SkinImage::named(QTest::currentDataTag()).size(), "size");
+}
+
+void tst_skinimage::aStateDiffersFromTheNormalOneOnlyInTheControls()
+{
+    const QRect control(234, 640 - 443 - 27, 97, 27); // Button1
+    const QRect ground(234, 500, 97, 27);
+    const QImage normal = SkinImage::named("mainbk").pixmap().toImage();
+    for (const char *name : {"mainO", "mainD", "mainDis"}) {
+        const QImage state = SkinImage::named(name).pixmap().toImage();
+        QVERIFY2(state.copy(control) != normal.copy(control), name);
+        QVERIFY2(state.copy(ground) == normal.copy(ground), name);
+    }
 }
 
 KYR_GUI_TEST(tst_skinimage)
