@@ -3,6 +3,7 @@
 #include "app/interface.h"
 #include "app/KyrGMAppDelegate.h"
 #include "app/skinpalette.h"
+#include "platform/canvas.h"
 #include "platform/desktop.h"
 #include "platform/desktoppanels.h"
 #include "platform/notificationcenter.h"
@@ -15,6 +16,7 @@ int runKyrGM(int argc, char **argv, const Places &places)
     preferPlacedWindows();
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("KyrGM"));
+    QApplication::setFont(skinFont());
     useSkinPalette();
 
     const auto notifications = NotificationCenter::distributed();

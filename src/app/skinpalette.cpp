@@ -1,6 +1,6 @@
 #include "app/skinpalette.h"
 
-#include "platform/canvas.h"
+#include "platform/skincolours.h"
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
@@ -14,26 +14,19 @@ struct RoleColour
     QColor colour;
 };
 
-constexpr QColor kGround(38, 30, 23);
-constexpr QColor kRecess(13, 10, 8);
-constexpr QColor kKey(58, 46, 34);
-constexpr QColor kPale(222, 190, 128);
-constexpr QColor kFaint(125, 118, 107);
-constexpr QColor kLit(122, 72, 6);
-
 constexpr RoleColour kColours[] = {
-    {QPalette::Window, kGround},
+    {QPalette::Window, kMetal},
     {QPalette::WindowText, kPale},
-    {QPalette::Base, kRecess},
-    {QPalette::AlternateBase, kGround},
+    {QPalette::Base, kMetalRecess},
+    {QPalette::AlternateBase, kMetal},
     {QPalette::Text, kPale},
     {QPalette::PlaceholderText, kFaint},
-    {QPalette::Button, kKey},
+    {QPalette::Button, kMetalRaised},
     {QPalette::ButtonText, kPale},
     {QPalette::BrightText, kWhite},
-    {QPalette::Highlight, kLit},
+    {QPalette::Highlight, kMoonDeep},
     {QPalette::HighlightedText, kWhite},
-    {QPalette::ToolTipBase, kRecess},
+    {QPalette::ToolTipBase, kMetalRecess},
     {QPalette::ToolTipText, kPale},
     {QPalette::Link, kGold},
 };
@@ -44,7 +37,7 @@ constexpr QPalette::ColorRole kTextRoles[] = {QPalette::WindowText, QPalette::Te
 
 void useSkinPalette()
 {
-    QPalette palette(kKey, kGround);
+    QPalette palette(kMetalRaised, kMetal);
     for (const auto &[role, colour] : kColours)
         palette.setColor(role, colour);
     for (const QPalette::ColorRole role : kTextRoles)

@@ -18,18 +18,6 @@ constexpr int kFrameWidth = 4;
 constexpr qreal kCorner = 5;
 constexpr qreal kRowCorner = 3;
 
-constexpr QColor kRim(7, 5, 4);
-constexpr QColor kBrassDark(76, 58, 31);
-constexpr QColor kBrass(138, 108, 56);
-constexpr QColor kBrassLight(201, 162, 92);
-constexpr QColor kGroundTop(29, 23, 18);
-constexpr QColor kGroundBottom(38, 30, 23);
-constexpr QColor kBevel(255, 240, 208, 24);
-constexpr QColor kLitTop(79, 46, 6);
-constexpr QColor kLitBottom(140, 87, 13);
-constexpr QColor kLitEdgeTop(224, 152, 42);
-constexpr QColor kLitEdgeBottom(255, 208, 96);
-
 QLinearGradient downwards(const QRectF &rect, const QColor &top, const QColor &bottom)
 {
     QLinearGradient gradient(rect.topLeft(), rect.bottomLeft());
@@ -60,30 +48,36 @@ QRectF lineInside(const QRectF &rect, qreal depth = 0)
 void drawPanel(QPainter &painter, const QRectF &rect)
 {
     painter.fillRect(rect, kRim);
-    QLinearGradient brass = downwards(rect, kBrassLight, kBrass);
-    brass.setColorAt(0.4, kBrassDark);
-    painter.setPen(QPen(brass, 1));
-    painter.setBrush(downwards(rect, kGroundTop, kGroundBottom));
+    painter.setPen(QPen(downwards(rect, kGoldLight, kGoldDark), 1));
+    painter.setBrush(downwards(rect, kMetal, kMetalDark));
     painter.drawPolygon(plate(lineInside(rect, 1), kCorner));
     painter.setPen(kBevel);
     painter.setBrush(Qt::NoBrush);
     painter.drawPolygon(plate(lineInside(rect, 2), kCorner - 0.5));
 }
 
-void drawSeparator(QPainter &painter, const QRectF &rect)
+/// A line that fades towards the ends of `rect`, so many points below its top.
+void drawFadingLine(QPainter &painter, const QRectF &rect, qreal depth, const QColor &colour)
 {
     QLinearGradient line(rect.topLeft(), rect.topRight());
     line.setColorAt(0, Qt::transparent);
-    line.setColorAt(0.1, kBrassDark);
-    line.setColorAt(0.9, kBrassDark);
+    line.setColorAt(0.1, colour);
+    line.setColorAt(0.9, colour);
     line.setColorAt(1, Qt::transparent);
-    painter.fillRect(QRectF(rect.left(), rect.top() + 1, rect.width(), 1), line);
+    painter.fillRect(QRectF(rect.left(), rect.top() + depth, rect.width(), 1), line);
+}
+
+/// Etched: a groove, and the light on its lower edge.
+void drawSeparator(QPainter &painter, const QRectF &rect)
+{
+    drawFadingLine(painter, rect, 0, kRim);
+    drawFadingLine(painter, rect, 1, kGoldDeep);
 }
 
 void drawHighlight(QPainter &painter, const QRectF &rect)
 {
-    painter.setPen(QPen(downwards(rect, kLitEdgeTop, kLitEdgeBottom), 1));
-    painter.setBrush(downwards(rect, kLitTop, kLitBottom));
+    painter.setPen(QPen(downwards(rect, kMoonDeep, kMoonBody), 1));
+    painter.setBrush(downwards(rect, kMoonDark, kMoonDeep));
     painter.drawPolygon(plate(lineInside(rect), kRowCorner));
 }
 
@@ -106,10 +100,11 @@ void drawArrow(QPainter &painter, QPointF centre, const QColor &colour)
 void drawItem(QPainter &painter, const QStyleOptionMenuItem &item)
 {
     const QRectF row = item.rect;
+    const bool isEnabled = item.state & QStyle::State_Enabled;
     const bool lit = item.state & QStyle::State_Selected;
     if (lit)
         drawHighlight(painter, row);
-    const QColor colour = lit ? kWhite : kGold;
+    const QColor colour = !isEnabled ? kFaint : lit ? kWhite : kGold;
     const qreal middle = row.center().y();
     if (item.checked)
         drawCheckMark(painter, {row.left() + kCheckColumn / 2.0, middle}, colour);

@@ -14,11 +14,6 @@ namespace {
 constexpr int kShortestSlider = 24;
 constexpr qreal kCorner = 2.5;
 
-constexpr QColor kGroove(13, 10, 8);
-constexpr QColor kEdge(7, 5, 4);
-constexpr QColor kBrass(138, 108, 56);
-constexpr QColor kLit(224, 168, 58);
-
 /// A slider in a groove, without arrows.
 class ScrollBarStyle : public QProxyStyle
 {
@@ -63,11 +58,11 @@ public:
         if (control != CC_ScrollBar || !bar)
             return QProxyStyle::drawComplexControl(control, option, painter, widget);
         painter->save();
-        painter->fillRect(bar->rect, kGroove);
+        painter->fillRect(bar->rect, kMetalRecess);
         const bool isLit = bar->activeSubControls & SC_ScrollBarSlider;
         painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(kEdge);
-        painter->setBrush(isLit ? kLit : kBrass);
+        painter->setPen(kRim);
+        painter->setBrush(isLit ? kGoldBright : kGoldMiddle);
         painter->drawRoundedRect(QRectF(partOf(*bar, SC_ScrollBarSlider)).adjusted(1, 1, -1, -1),
                                  kCorner, kCorner);
         painter->restore();

@@ -13,14 +13,13 @@ namespace {
 constexpr int kTextSize = 12;
 constexpr qsizetype kMostPasted = 32767;
 constexpr QColor kReadOnly(170, 170, 170);
-constexpr QColor kSelected(122, 72, 6);
 
 void setColours(QWidget &field, const QColor &ground)
 {
     QPalette palette = field.palette();
     palette.setColor(QPalette::Base, ground);
     palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::Highlight, kSelected);
+    palette.setColor(QPalette::Highlight, kMoonDeep);
     palette.setColor(QPalette::HighlightedText, kWhite);
     field.setPalette(palette);
 }

@@ -17,6 +17,6 @@ QString asOneLine(const QString &text)
 void showWholeText(const QHelpEvent &event, QWidget &view, const QString &text,
                    const QFontMetrics &metrics, int space)
 {
-    const bool isCut = metrics.horizontalAdvance(text) > space;
+    const bool isCut = metrics.elidedText(text, Qt::ElideRight, space) != text;
     QToolTip::showText(event.globalPos(), isCut ? asOneLine(text) : view.toolTip(), &view);
 }

@@ -36,8 +36,7 @@ void PopupProgressBar::drawRect(Canvas &canvas)
 {
     canvas.clear();
     canvas.drawImage(BKImage);
-    canvas.DrawMyTextwithColor(QStringLiteral("Applying profile to on-board memory..."), kMessage,
-                               kGold, TextAlign::Left, kTextSize);
-    canvas.DrawMyTextwithColor(QString::asprintf("%d%%", m_iPos), kPercent, kGold, TextAlign::Left,
-                               kTextSize);
+    canvas.drawLine(QStringLiteral("Applying profile to on-board memory..."), kMessage, kGold,
+                    TextAlign::Left, kTextSize);
+    canvas.drawLine(QString::asprintf("%d%%", m_iPos), kPercent, kGold, TextAlign::Left, kTextSize);
 }

@@ -101,6 +101,6 @@ void BarView::drawRect(Canvas &canvas)
     canvas.drawLine(QLatin1String(m_look.title), onPicture(m_look.titleRect), kGold,
                     TextAlign::Left, kTitleSize);
     for (const BarLook::Label &label : m_look.labels)
-        canvas.DrawMyTextwithColor(QLatin1String(label.text), onPicture(label.rect), kGold,
-                                   TextAlign::Left, kLabelSize);
+        canvas.drawLine(QLatin1String(label.text), onPicture(label.rect), kGold, TextAlign::Left,
+                        kLabelSize);
 }

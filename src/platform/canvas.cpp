@@ -4,8 +4,13 @@
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
+
+constexpr QLatin1String kFontFamily("Lato");
+// On dark ground and this small, the regular weight looks thin.
+constexpr QFont::Weight kFontWeight = QFont::Medium;
 
 Qt::Alignment horizontal(TextAlign align)
 {
@@ -20,6 +25,37 @@ Qt::Alignment horizontal(TextAlign align)
     return Qt::AlignLeft;
 }
 
+/// What breaks lines, or is no letter at all, becomes a blank.
+QString asOneLine(QString text)
+{
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+            character == QChar::ParagraphSeparator)
+            character = u' ';
+    }
+    return text;
+}
+
+/// How many pixels the capitals are high. Only where a point is a pixel are they fitted to these.
+qreal capitalsIn(const QFontMetricsF &metrics, qreal scale)
+{
+    return qFuzzyCompare(scale, 1.0) ? metrics.tightBoundingRect(QStringLiteral("H")).height()
+                                     : std::round(metrics.capHeight() * scale);
+}
+
+qreal leftOf(qreal width, const QRectF &rect, TextAlign align)
+{
+    switch (align) {
+    case TextAlign::Right:
+        return rect.right() - width;
+    case TextAlign::Centre:
+        return rect.center().x() - width / 2;
+    case TextAlign::Left:
+        break;
+    }
+    return rect.left();
+}
+
 } // namespace
 
 QColor colourOf(double red, double green, double blue)
@@ -30,16 +66,27 @@ QColor colourOf(double red, double green, double blue)
     return QColor::fromRgbF(component(red), component(green), component(blue));
 }
 
-QFont systemFont(int size)
+QFont skinFont()
 {
     QFont font = QGuiApplication::font();
+    QStringList families = font.families();
+    if (!families.contains(kFontFamily))
+        families.prepend(kFontFamily);
+    font.setFamilies(families);
+    font.setWeight(kFontWeight);
+    return font;
+}
+
+QFont systemFont(int size)
+{
+    QFont font = skinFont();
     font.setPixelSize(size);
     return font;
 }
 
-void outlineInside(QPainter &painter, const QRectF &rect, const QColor &colour)
+void outlineInside(QPainter &painter, const QRectF &rect, const QBrush &brush)
 {
-    painter.setPen(colour);
+    painter.setPen(QPen(brush, 1));
     painter.setBrush(Qt::NoBrush);
     // The pen is a point wide: its middle runs half a point inside.
     painter.drawRect(rect.adjusted(0.5, 0.5, -0.5, -0.5));
@@ -70,6 +117,15 @@ void Canvas::fill(UpRect rect, const QColor &colour)
 void Canvas::outline(UpRect rect, const QColor &colour)
 {
     outlineInside(m_painter, m_host.down(rect), colour);
+}
+
+void Canvas::outline(UpRect rect, const QColor &top, const QColor &bottom)
+{
+    const QRectF place = m_host.down(rect);
+    QLinearGradient light(place.topLeft(), place.bottomLeft());
+    light.setColorAt(0, top);
+    light.setColorAt(1, bottom);
+    outlineInside(m_painter, place, light);
 }
 
 void Canvas::drawImage(const SkinImage &image, UpPoint origin, qreal opacity)
@@ -106,8 +162,15 @@ void Canvas::drawLine(const QString &text, UpRect rect, const QColor &colour, Te
 {
     m_painter.setFont(systemFont(fontSize));
     m_painter.setPen(colour);
-    const QString line = m_painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width);
-    m_painter.drawText(m_host.down(rect), horizontal(align) | Qt::AlignVCenter | Qt::TextSingleLine,
+    const QFontMetricsF metrics(m_painter.fontMetrics());
+    const QString line = metrics.elidedText(asOneLine(text), Qt::ElideRight, rect.width);
+    const QRectF place = m_host.down(rect);
+    // The baseline is found in pixels, on which the letters stand.
+    const qreal scale = m_painter.deviceTransform().m22();
+    const qreal capitals = capitalsIn(metrics, scale);
+    const qreal above = std::floor((place.height() * scale - capitals) / 2);
+    m_painter.drawText(QPointF(leftOf(metrics.horizontalAdvance(line), place, align),
+                               place.top() + (above + capitals) / scale),
                        line);
 }
 

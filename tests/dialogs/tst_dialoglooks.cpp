@@ -1,5 +1,6 @@
 #include "dialogs/dialogstage.h"
 #include "dialogs/textfit.h"
+#include "support/lettering.h"
 #include "support/suite.h"
 
 #include <QtGui/QAccessible>
@@ -64,8 +65,14 @@ void drawText(QImage &picture, const QString &text, UpRect place, int flags, int
                      flags | Qt::AlignHCenter | Qt::TextDontClip, text);
 }
 
-constexpr int kTitleFlags = Qt::AlignVCenter | Qt::TextSingleLine;
 constexpr int kMessageFlags = Qt::AlignTop | Qt::TextWordWrap;
+
+void drawTitle(QImage &picture, const QString &text, UpRect place)
+{
+    QPainter painter(&picture);
+    painter.setPen(kGold);
+    writeLine(painter, text, UpHost(picture.height()).down(place), 12, Qt::AlignHCenter);
+}
 
 void drawMessage(QImage &picture, const QString &text, UpRect box)
 {
@@ -132,7 +139,7 @@ void tst_dialoglooks::theTextsAreDrawn()
     QuestionStage stage;
     QImage expected = shown(*stage.view);
     const QImage empty = expected;
-    drawText(expected, QStringLiteral("Warning"), {33, 146, 320, 18}, kTitleFlags);
+    drawTitle(expected, QStringLiteral("Warning"), {33, 146, 320, 18});
     drawMessage(expected, text, box);
     stage.view->setDisplayString(QStringLiteral("Warning"), text);
     const QImage picture = shown(*stage.view);
@@ -140,7 +147,7 @@ void tst_dialoglooks::theTextsAreDrawn()
     QCOMPARE(picture, expected);
     WarningStage warning;
     QImage wanted = shown(*warning.view);
-    drawText(wanted, QStringLiteral("Warning"), {33, 146, 320, 18}, kTitleFlags);
+    drawTitle(wanted, QStringLiteral("Warning"), {33, 146, 320, 18});
     drawMessage(wanted, text, box);
     warning.view->setDisplayString(QStringLiteral("Warning"), text);
     QCOMPARE(shown(*warning.view), wanted);
@@ -153,7 +160,7 @@ void tst_dialoglooks::theVersionsAreDrawn()
     // The close button is cut from the same picture.
     QImage expected =
         SkinImage::named("About_n").pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
-    drawText(expected, QStringLiteral("About"), {34, 146, 190, 18}, kTitleFlags);
+    drawTitle(expected, QStringLiteral("About"), {34, 146, 190, 18});
     drawMessage(expected, QStringLiteral("Software Version:1.02"), {20, 62, 218, 18});
     drawMessage(expected, QStringLiteral("Firmware Version:2.1"), {20, 38, 218, 18});
     QCOMPARE(shown(*stage.view), expected);

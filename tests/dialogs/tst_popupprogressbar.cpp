@@ -72,7 +72,7 @@ void tst_popupprogressbar::theProgressIsBoundedAndWritten()
     QCOMPARE(stage.bar().getPos(), progress);
     QVERIFY(stage.window.isVisible()); // at 100, too: whoever opened it closes it
     const QRect place(206, 74 - 18 - 16, 40, 16);
-    QCOMPARE(shown(stage.view).copy(place), withText(skin("Pop_UP_normal"), text, place, 11));
+    QCOMPARE(shown(stage.view).copy(place), withLine(skin("Pop_UP_normal"), text, place, 11));
 }
 
 void tst_popupprogressbar::theMessageIsWritten()
@@ -80,7 +80,7 @@ void tst_popupprogressbar::theMessageIsWritten()
     ProgressViewStage stage;
     const QString message = QStringLiteral("Applying profile to on-board memory...");
     const QRect place(12, 74 - 44 - 15, 232, 15);
-    QCOMPARE(shown(stage.view).copy(place), withText(skin("Pop_UP_normal"), message, place, 11));
+    QCOMPARE(shown(stage.view).copy(place), withLine(skin("Pop_UP_normal"), message, place, 11));
 }
 
 void tst_popupprogressbar::theBarIsUncoveredAsFarAsTheProgress_data()

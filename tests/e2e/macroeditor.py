@@ -14,7 +14,7 @@ NAME, EVENTS, PASTED, START_KEY, SEND_KEY, LOOP_COUNT = (
     "pTextfieldMacroName", "MacroscrollView", "pCopyTextfield", "pStartDisplayView",
     "pSendDisplayView", "pLoopTextfield")
 BACKGROUND = 225, 455, 20, 20  # of the editor, where nothing lies
-LIT = bytes((255, 223, 128))  # around the field that has the keyboard
+LIT = bytes((240, 207, 134))  # around the field that has the keyboard
 
 WARNING_CONTROLS = control_rectangles("macro/MacroDelWarn.cpp")
 LIST_BUTTONS = control_rectangles("macro/rightbarMacro.cpp")

@@ -25,9 +25,7 @@ inline QImage displayPicture(const QString &text, QSize size, const QColor &grou
     const QPixmap up = skin(scale == 1 ? "up" : "up@2x");
     QPainter painter(&image);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    QFont font = QApplication::font();
-    font.setPixelSize(11);
-    painter.setFont(font);
+    painter.setFont(systemFont(11));
     for (const TextCell &cell : layOutCells(text, size.height(), 15)) {
         const QRect place = UpHost(size.height()).down(cell.place);
         if (cell.character == u'|')

@@ -1,5 +1,6 @@
 #include "editorstage.h"
 #include "platform/canvas.h"
+#include "support/lettering.h"
 #include "support/screen.h"
 #include "support/skinpictures.h"
 #include "support/suite.h"
@@ -29,8 +30,6 @@ namespace {
 
 constexpr UpHost kDialog(522);
 constexpr QColor kGrey(170, 170, 170);
-constexpr QColor kRim(7, 5, 4);
-constexpr QColor kLit(255, 223, 128);
 
 QImage skinPart(const char *picture, UpRect place)
 {
@@ -42,10 +41,8 @@ QImage labelled(const char *text, UpRect place, int align)
 {
     QPixmap picture = skin("Macro_N");
     QPainter painter(&picture);
-    painter.setFont(systemFont(11));
-    painter.setPen(QColor(255, 180, 0));
-    painter.drawText(kDialog.down(place), align | Qt::AlignVCenter | Qt::TextSingleLine,
-                     QString::fromLatin1(text));
+    painter.setPen(kGold);
+    writeLine(painter, QString::fromLatin1(text), kDialog.down(place), 11, align);
     return picture.toImage().copy(kDialog.down(place)).convertToFormat(QImage::Format_ARGB32);
 }
 
@@ -113,7 +110,7 @@ void tst_editorlooks::betweenTheControlsShowsThePicture()
     };
     stage.click("ButtonText");
     QVERIFY(isBare({0, 510, 261, 12}));
-    QVERIFY(isBare({50, 262, 195, 7}));
+    QVERIFY(isBare({50, 265, 195, 5}));
     QVERIFY(isBare({0, 124, 261, 16}));
     QVERIFY(isBare({0, 0, 261, 11}));
     stage.click("ButtonCopy");
@@ -234,9 +231,9 @@ void tst_editorlooks::theFieldWithTheKeyboardIsFramedBrightly()
         return onScreen(*stage.window).pixelColor(field.left() - out, field.center().y());
     };
     QCOMPARE(edge(1), kRim);
-    QCOMPARE(edge(2), QColor(138, 108, 56));
+    QCOMPARE(edge(2), kGoldMiddle);
     stage.click(QTest::currentDataTag());
-    QCOMPARE(edge(1), kLit);
+    QCOMPARE(edge(1), kGoldBright);
     QCOMPARE(edge(2), kGold);
     stage.clickBackground();
     QCOMPARE(edge(1), kRim);

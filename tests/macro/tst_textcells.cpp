@@ -25,9 +25,7 @@ constexpr int kLineEnd = 214;
 
 int roundedWidth(QChar character)
 {
-    QFont font = QApplication::font();
-    font.setPixelSize(11);
-    return qRound(QFontMetricsF(font).horizontalAdvance(character));
+    return qRound(QFontMetricsF(systemFont(11)).horizontalAdvance(character));
 }
 
 /// The places of a text in a view 140 high.

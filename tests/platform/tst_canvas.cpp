@@ -1,6 +1,8 @@
 #include "drawnview.h"
 #include "support/suite.h"
 
+#include <QtGui/QFontDatabase>
+
 /// Drawing in upward coordinates, at the scales of usual and of fine screens.
 class tst_canvas : public QObject
 {
@@ -21,6 +23,10 @@ private Q_SLOTS:
     void clearingMakesTheViewTransparent();
     void aLineStandsAtItsSide_data();
     void aLineStandsAtItsSide();
+    void aLinesCapitalsStandInTheMiddle_data();
+    void aLinesCapitalsStandInTheMiddle();
+    void whatBreaksLinesIsABlankInALine();
+    void theLettersAreTheSkins();
     void aLineTooLongIsCutAtItsEnd_data();
     void aLineTooLongIsCutAtItsEnd();
     void textIsWrappedAtWordsFromTheTopDownwards_data() { scales(); }
@@ -175,6 +181,65 @@ void tst_canvas::aLineStandsAtItsSide()
     else
         QVERIFY(qAbs(text.center().x() - place.center().x()) <= near);
     QVERIFY(qAbs(text.center().y() - place.center().y()) <= near);
+}
+
+void tst_canvas::aLinesCapitalsStandInTheMiddle_data()
+{
+    QTest::addColumn<int>("scale");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("height");
+    for (int scale : {1, 2}) {
+        for (int size : {10, 11, 12}) {
+            for (int height : {15, 20, 27, 29, 31, 35, 38})
+                QTest::addRow("%d in %d, scale %d", size, height, scale) << scale << size << height;
+        }
+    }
+}
+
+/// To the pixel: where the pixels are odd, the one that is left is below.
+void tst_canvas::aLinesCapitalsStandInTheMiddle()
+{
+    QFETCH(int, scale);
+    QFETCH(int, size);
+    QFETCH(int, height);
+    const QImage image = drawn(scale, [&](Canvas &canvas) {
+        canvas.drawLine(QStringLiteral("HIH"), {10, 20, 80, height}, kGold, TextAlign::Centre,
+                        size);
+    });
+    const QRect place = scaled({10, 60 - height, 80, height}, scale);
+    const QRect text = detail::extentWhere(
+        image, [](const QColor &pixel) { return pixel.value() > kGold.value() / 2; });
+    const int above = text.top() - place.top();
+    const int below = place.bottom() - text.bottom();
+    QVERIFY2(below - above == 0 || below - above == 1,
+             qPrintable(QStringLiteral("%1 above, %2 below").arg(above).arg(below)));
+}
+
+void tst_canvas::whatBreaksLinesIsABlankInALine()
+{
+    const auto line = [](const QString &text) {
+        return drawn(1, [&](Canvas &canvas) {
+            canvas.drawLine(text, {10, 20, 80, 30}, kGold, TextAlign::Left, 10);
+        });
+    };
+    const QImage blank = line(QStringLiteral("a b"));
+    for (const QChar breaking : {QChar(u'\n'), QChar(u'\t'), QChar(QChar::LineSeparator)})
+        QCOMPARE(line(u'a' + QString(breaking) + u'b'), blank);
+}
+
+/// Also in the toolkit's own size, and with the toolkit's letters behind them.
+void tst_canvas::theLettersAreTheSkins()
+{
+    const QString family = QStringLiteral("Lato");
+    if (!QFontDatabase::hasFamily(family))
+        QSKIP("the skin's letters are not installed");
+    for (const QFont &font : {skinFont(), systemFont(10)}) {
+        QCOMPARE(QFontInfo(font).family(), family);
+        QCOMPARE(QFontInfo(font).weight(), int{QFont::Medium});
+        QCOMPARE(font.families(), QStringList() << family << QGuiApplication::font().families());
+    }
+    QCOMPARE(skinFont().pointSizeF(), QGuiApplication::font().pointSizeF());
+    QCOMPARE(systemFont(10).pixelSize(), 10);
 }
 
 void tst_canvas::aLineTooLongIsCutAtItsEnd_data()
