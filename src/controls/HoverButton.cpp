@@ -12,22 +12,15 @@ namespace {
 constexpr int kCaptionSize = 10;
 constexpr int kCaptionMargin = 8; // clear of the lamps that light up in the pressed face
 constexpr int kDropFrameWidth = 2;
-constexpr QColor kDropFrame(255, 223, 128);
-constexpr float kDisabledCaption = 0.55F;
 
 /// Broad and bright, so that it shows beside the picture that is dragged.
 void drawDropFrame(Canvas &canvas)
 {
     UpRect frame = canvas.bounds();
     for (int line = 0; line < kDropFrameWidth; ++line) {
-        canvas.outline(frame, kDropFrame);
+        canvas.outline(frame, kGoldBright);
         frame = {frame.x + 1, frame.y + 1, frame.width - 2, frame.height - 2};
     }
-}
-
-UpRect captionRect(UpRect bounds)
-{
-    return {kCaptionMargin, 0, bounds.width - 2 * kCaptionMargin, bounds.height};
 }
 
 } // namespace
@@ -72,6 +65,17 @@ void HoverButton::setCaptionText(const QString &text)
     update();
 }
 
+void HoverButton::setArrowWidth(int width)
+{
+    m_arrowWidth = width;
+    update();
+}
+
+UpRect HoverButton::captionRect() const
+{
+    return {kCaptionMargin, 0, width() - m_arrowWidth - 2 * kCaptionMargin, height()};
+}
+
 void HoverButton::setAction(const Action<HoverButton *> &action)
 {
     m_action = action;
@@ -108,11 +112,8 @@ void HoverButton::drawRect(Canvas &canvas)
     const bool showsDisabled = m_bEnableDisable && !DisableImage.isNull();
     const bool pressed = isPressedOrOn() && !showsDisabled;
     canvas.drawImage(pressed && !AlternateImage.isNull() ? AlternateImage : m_shown);
-    QColor colour = pressed ? kWhite : kGold;
-    if (m_bEnableDisable)
-        colour.setAlphaF(kDisabledCaption);
-    canvas.drawLine(m_caption, captionRect(canvas.bounds()), colour, TextAlign::Centre,
-                    kCaptionSize);
+    const QColor colour = m_bEnableDisable ? kFaint : pressed ? kWhite : kGold;
+    canvas.drawLine(m_caption, captionRect(), colour, TextAlign::Centre, kCaptionSize);
     if (showsKeyboard())
         canvas.outline(canvas.bounds(), kGold);
     if (m_isDropTarget)
@@ -182,8 +183,7 @@ bool HoverButton::event(QEvent *event)
     if (event->type() != QEvent::ToolTip)
         return ViewOf::event(event);
     showWholeText(*static_cast<QHelpEvent *>(event), *this, m_caption,
-                  QFontMetrics(systemFont(kCaptionSize)),
-                  captionRect({0, 0, width(), height()}).width);
+                  QFontMetrics(systemFont(kCaptionSize)), captionRect().width);
     return true;
 }
 

@@ -24,9 +24,15 @@ public:
     void setAlternateImage(const SkinImage &image);
     void setDisableImage(const SkinImage &image);
 
-    /// The caption: centred, cut at its end, 10 points; orange, white while pressed or on.
+    /// The caption: centred, cut at its end, 10 points; orange, white while pressed or on, grey
+    /// while disabled.
     void setCaptionText(const QString &text);
     QString captionText() const { return m_caption; }
+    /// How wide the field of an arrow at the right of its faces is, in points: the caption stands
+    /// in what that leaves. 0 at first.
+    void setArrowWidth(int width);
+    /// Where the caption stands; a longer one is cut.
+    UpRect captionRect() const;
 
     /// Sent with the button after a left click, or the space key.
     void setAction(const Action<HoverButton *> &action);
@@ -72,6 +78,7 @@ private:
     SkinImage AlternateImage;
     SkinImage DisableImage;
     QString m_caption;
+    int m_arrowWidth = 0;
     Action<HoverButton *> m_action;
     Action<HoverButton *> RightAction;
     Action<HoverButton *> GetDragAction;

@@ -9,6 +9,7 @@ HoverButton *makePlainButton(QWidget *parent, const ButtonRow &row)
     button->setAccessibleName(QLatin1String(row.description));
     button->setTag(row.tag);
     button->setCaptionText(QLatin1String(row.caption));
+    button->setArrowWidth(row.arrowWidth);
     return button;
 }
 

@@ -26,7 +26,11 @@ struct ButtonRow
     int tag = 0;
     const char *caption = "";     ///< written on it; empty where the skin says it
     const char *description = ""; ///< what it is called for assistive technology
+    int arrowWidth = 0;           ///< of the field of an arrow at its right
 };
+
+/// The field of the arrow on a button that shows a value and opens a list.
+inline constexpr int kArrowField = 20;
 
 /// A button in `parent`, which owns it, drawn from two pictures of its own, by name: at rest, and
 /// pressed or on. It has no action yet.

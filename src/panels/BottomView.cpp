@@ -41,13 +41,13 @@ constexpr const char *kPulsations[] = {"Fast", "Medium", "Low", "Off"};
 
 /// In the order of Level.
 constexpr LevelChoice::Look kLevels[] = {
-    {{"btnIntensity", {167, 25, 122, 29}, kIntensityTag, "", "Intensity"},
+    {{"btnIntensity", {167, 25, 122, 29}, kIntensityTag, "", "Intensity", kArrowField},
      kIntensityListTag,
      kIntensities,
      &ProfileInfo::LED_INTENSITY,
      "IDC_LISTBOX_INTENSITY:%d"},
     // Logged under the name of the intensity too, on purpose.
-    {{"btnPulsation", {314, 25, 122, 29}, kPulsationTag, "", "Pulsation"},
+    {{"btnPulsation", {314, 25, 122, 29}, kPulsationTag, "", "Pulsation", kArrowField},
      kPulsationListTag,
      kPulsations,
      &ProfileInfo::LED_PULSATION,

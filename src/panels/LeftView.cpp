@@ -34,11 +34,12 @@ constexpr BarLook kLook{.background = "leftBar",
 /// The blank belongs to the text.
 constexpr const char *kDpiTexts[] = {" 800", " 1600", " 2400", " 3200", " 4000", " 5000"};
 constexpr int kDpiTag = 0x2001;
-constexpr LevelChoice::Look kDpi{.button = {"btnDPI", {97, 358, 101, 27}, kDpiTag, "", "CPI value"},
-                                 .listTag = 0x4000,
-                                 .texts = kDpiTexts,
-                                 .field = &ProfileInfo::DPI_VALUE,
-                                 .logLine = "IDC_LISTBOX_DPI:%d"};
+constexpr LevelChoice::Look kDpi{
+    .button = {"btnDPI", {97, 358, 101, 27}, kDpiTag, "", "CPI value", kArrowField},
+    .listTag = 0x4000,
+    .texts = kDpiTexts,
+    .field = &ProfileInfo::DPI_VALUE,
+    .logLine = "IDC_LISTBOX_DPI:%d"};
 
 constexpr int kHorizontal = 1;
 constexpr int kVertical = 2;

@@ -32,7 +32,7 @@ constexpr Label kLabels[] = {
 
 /// In the order of the tab key, which the fields head.
 constexpr ButtonRow kButtons[] = {
-    {"ButtonRegion", {294, 115, 150, 29}, kRegionTag, "", "Region"},
+    {"ButtonRegion", {294, 115, 150, 29}, kRegionTag, "", "Region", kArrowField},
     {"ButtonOK", {147, 7, 80, 35}, kCharInfoOK, "OK", "OK"},
     {"ButtonCancel", {226, 7, 80, 35}, kCharInfoCancel, "Cancel", "Cancel"},
     {"ButtonClose", {423, 187, 25, 25}, kCharInfoClose, "", "Close"},
