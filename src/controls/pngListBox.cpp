@@ -12,6 +12,9 @@ namespace {
 
 constexpr int kTextSize = 11;
 constexpr int kTextInset = 3; ///< the text stands in the row's strip shortened by this
+constexpr int kFrameGap = 4;  ///< between the texts and a pop-up's frame
+constexpr int kMarkWidth = 2;
+constexpr int kMarkInset = 4; ///< of the mark, from the ends of its row
 
 } // namespace
 
@@ -93,7 +96,19 @@ UpRect pngListBox::strip(int row) const
 UpRect pngListBox::textPlace(int row) const
 {
     const UpRect whole = strip(row);
-    return {whole.x, whole.y, whole.width - m_rightMargin, whole.height - kTextInset};
+    const int side = isFramed() ? kPopupFrame + kFrameGap : 0;
+    // As much room below as above: the text stands in the middle of its row.
+    return {whole.x + side, whole.y + kTextInset, whole.width - 2 * side - m_rightMargin,
+            whole.height - 2 * kTextInset};
+}
+
+/// A light in a pop-up's edge: there the selected row alone would hardly show.
+void pngListBox::drawMark(Canvas &canvas, int row) const
+{
+    const UpRect at = strip(row);
+    if (isFramed())
+        canvas.fill({at.x + kPopupFrame, at.y + kMarkInset, kMarkWidth, at.height - 2 * kMarkInset},
+                    kMoonBody);
 }
 
 /// -1 where there is no row.
@@ -103,12 +118,14 @@ int pngListBox::rowAt(int fromTop) const
     return fromTop >= 0 && row < getCount() ? row : -1;
 }
 
-void pngListBox::drawRect(Canvas &canvas)
+void pngListBox::drawContent(Canvas &canvas)
 {
     canvas.fill(canvas.bounds(), Qt::black);
     for (int row = 0; row < getCount(); ++row) {
-        if (row == _currentpos)
+        if (row == _currentpos) {
             canvas.fill(strip(row), colourOf(_foreColorR, _foreColorG, _foreColorB));
+            drawMark(canvas, row);
+        }
         canvas.drawLine(pListArray[row], textPlace(row),
                         colourOf(_textColorR, _textColorG, _textColorB), _textAlign, kTextSize);
     }
@@ -116,7 +133,7 @@ void pngListBox::drawRect(Canvas &canvas)
         return;
     // Of a list that scrolls, only the selected row is sure to be in sight.
     const bool hasRow = _currentpos >= 0 && _currentpos < getCount();
-    canvas.outline(hasRow ? strip(_currentpos) : canvas.bounds(), kGold);
+    canvas.outline(insideFrame(hasRow ? strip(_currentpos) : canvas.bounds()), kGold);
 }
 
 bool pngListBox::event(QEvent *event)
@@ -125,7 +142,7 @@ bool pngListBox::event(QEvent *event)
         return PopupContent::event(event);
     const auto &help = *static_cast<QHelpEvent *>(event);
     showWholeText(help, *this, stringAt(rowAt(help.y())), QFontMetrics(systemFont(kTextSize)),
-                  width() - m_rightMargin);
+                  textPlace(0).width);
     return true;
 }
 

@@ -56,7 +56,7 @@ public:
     FunctionCode getfunctionid(int row) const;
 
 protected:
-    void drawRect(Canvas &canvas) override;
+    void drawContent(Canvas &canvas) override;
     void mouseDown(const ViewMouseEvent &event) override;
     void mouseUp(const ViewMouseEvent &event) override;
     void mouseDragged(const ViewMouseEvent &event) override;
@@ -67,6 +67,7 @@ protected:
 private:
     UpRect strip(int row) const;
     UpRect textPlace(int row) const;
+    void drawMark(Canvas &canvas, int row) const;
     int rowAt(int fromTop) const;
     bool hasFunctions() const { return _tag >= kCpiListTag && _tag <= kMacroListTag; }
     int rowsInSight() const;

@@ -125,6 +125,7 @@ void PopupList::open(const QWidget &button, const Content &content,
     pListbox->setObjectName(QLatin1String(content.windowName));
     pListbox->setWindowTitle(QLatin1String(content.title));
     pListboxView = content.view;
+    pListboxView->setFramed(true);
     pListboxView->setAccessibleName(QLatin1String(content.title));
     pListbox->setContentView(pListboxView);
     pListbox->makeKeyFor(*pListboxView, content.reason);

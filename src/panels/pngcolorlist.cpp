@@ -24,7 +24,7 @@ pngcolorlist::pngcolorlist(QWidget *parent, UpRect frame)
     setCursor(Qt::CrossCursor);
 }
 
-void pngcolorlist::drawRect(Canvas &canvas)
+void pngcolorlist::drawContent(Canvas &canvas)
 {
     canvas.drawImage(colorImage);
     if (!m_showsCross)

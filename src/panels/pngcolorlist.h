@@ -21,7 +21,7 @@ public:
     void setChangeAction(const Action<pngcolorlist *> &action) { changeAction = action; }
 
 protected:
-    void drawRect(Canvas &canvas) override;
+    void drawContent(Canvas &canvas) override;
     void mouseDown(const ViewMouseEvent &event) override;
     void mouseUp(const ViewMouseEvent &event) override;
     void mouseDragged(const ViewMouseEvent &event) override;

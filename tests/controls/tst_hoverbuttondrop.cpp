@@ -35,8 +35,6 @@ struct DropStage : ButtonStage
     Clicks drops;
 };
 
-const QColor kFrame(255, 223, 128);
-
 } // namespace
 
 void tst_hoverbuttondrop::aDroppedTextIsReadAsANumber_data()
@@ -137,16 +135,16 @@ void tst_hoverbuttondrop::aFrameShowsADragOverTheButton()
     QMimeData data;
     data.setText(QStringLiteral("1"));
     for (int round = 0; round < 2; ++round) {
-        QVERIFY(extentOf(stage.picture(), kFrame).isEmpty());
+        QVERIFY(extentOf(stage.picture(), kGoldBright).isEmpty());
         QVERIFY(dragOver(stage.button, data));
         // Two points broad, all around.
         const QRect inner = stage.button.rect().adjusted(2, 2, -2, -2);
-        QCOMPARE(extentOfOther(stage.picture(), kFrame), inner);
-        QVERIFY(extentOf(stage.picture().copy(inner), kFrame).isEmpty());
+        QCOMPARE(extentOfOther(stage.picture(), kGoldBright), inner);
+        QVERIFY(extentOf(stage.picture().copy(inner), kGoldBright).isEmpty());
         dragAway(stage.button);
     }
     QVERIFY(dropOn(stage.button, data));
-    QVERIFY(extentOf(stage.picture(), kFrame).isEmpty());
+    QVERIFY(extentOf(stage.picture(), kGoldBright).isEmpty());
 }
 
 void tst_hoverbuttondrop::noFrameShowsADragThatIsRefused_data()
@@ -166,7 +164,7 @@ void tst_hoverbuttondrop::noFrameShowsADragThatIsRefused()
     QMimeData data;
     data.setData(format, "42");
     QVERIFY(!dragOver(stage.button, data));
-    QVERIFY(extentOf(stage.picture(), kFrame).isEmpty());
+    QVERIFY(extentOf(stage.picture(), kGoldBright).isEmpty());
     QCOMPARE(stage.face(), disabled ? kDisabledFace : kNormalFace);
 }
 

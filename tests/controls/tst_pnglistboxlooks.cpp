@@ -1,4 +1,5 @@
 #include "controls/liststage.h"
+#include "support/lettering.h"
 #include "support/paintwatch.h"
 #include "support/pictures.h"
 #include "support/suite.h"
@@ -112,10 +113,8 @@ void tst_pnglistboxlooks::theTextIsOfElevenPoints()
         QPixmap expected(97, height);
         expected.fill(Qt::black);
         QPainter painter(&expected);
-        painter.setFont(systemFont(11));
         painter.setPen(Qt::white);
-        // In the strip shortened by 3 at its top.
-        painter.drawText(QRect(0, 3, 97, height - 3), Qt::AlignCenter, QStringLiteral("two"));
+        writeLine(painter, QStringLiteral("two"), {0, 0, 97, height}, 11, Qt::AlignHCenter);
         painter.end();
         QCOMPARE(shown(stage.list).copy(0, height, 97, height),
                  expected.toImage().convertToFormat(QImage::Format_ARGB32));

@@ -148,7 +148,7 @@ void tst_popuplist::aListOpenedByKeyShowsWhereTheKeyboardIs()
     PopupStage stage;
     HoverButton other(stage.window.get(), {150, 150, 97, 27});
     other.show();
-    const QPoint edge(0, rowPoint(PopupStage::kSelected).y());
+    const QPoint edge(kPopupFrame, rowPoint(PopupStage::kSelected).y());
     pointer::click(*stage.button);
     QVERIFY(shownAt(PopupStage::list(), edge) != kGold);
     keyboard::press(Qt::Key_Escape);

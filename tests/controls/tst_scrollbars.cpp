@@ -71,7 +71,7 @@ struct ScrollBarStage
                                            : image.transformed(QTransform(0, 1, 1, 0, 0, 0));
     }
     /// From where to where the slider is drawn.
-    QRect slider() const { return extentOfOther(picture(), QColor(13, 10, 8)); }
+    QRect slider() const { return extentOfOther(picture(), kMetalRecess); }
     void press(int at) const { pointer::press(bar(), along(QPoint(3, at))); }
     void release(int at) const { pointer::release(bar(), along(QPoint(3, at))); }
     void click(int at) const
@@ -195,9 +195,9 @@ void tst_scrollbars::theBarIsDrawnInTheSkinsColours()
     const ScrollBarStage stage(direction, 400);
     const QImage picture = stage.picture();
     QCOMPARE(picture.size(), QSize(7, 100));
-    QCOMPARE(extentOf(picture, QColor(13, 10, 8)), QRect(0, 0, 7, 100)); // around its corners too
-    QVERIFY(extentOfOther(picture.copy(0, 25, 7, 75), QColor(13, 10, 8)).isEmpty());
-    QCOMPARE(extentOf(picture, QColor(138, 108, 56)), QRect(2, 2, 3, 21));
+    QCOMPARE(extentOf(picture, kMetalRecess), QRect(0, 0, 7, 100)); // around its corners too
+    QVERIFY(extentOfOther(picture.copy(0, 25, 7, 75), kMetalRecess).isEmpty());
+    QCOMPARE(extentOf(picture, kGoldMiddle), QRect(2, 2, 3, 21));
     const QColor edge = picture.pixelColor(0, 12);
     QVERIFY(edge.value() < 13 && edge.value() >= 7);
 }
@@ -206,7 +206,7 @@ void tst_scrollbars::aSliderLightsUpUnderThePointerAndHeld()
 {
     QFETCH(Qt::Orientation, direction);
     const ScrollBarStage stage(direction, 400);
-    const auto isLit = [&] { return stage.picture().pixelColor(3, 12) == QColor(224, 168, 58); };
+    const auto isLit = [&] { return stage.picture().pixelColor(3, 12) == kGoldBright; };
     const auto moveTo = [&](int at) { pointer::move(stage.bar(), stage.along(QPoint(3, at))); };
     moveTo(90); // beside the slider
     QVERIFY(!isLit());

@@ -60,7 +60,7 @@ void tst_wholetext::aCutRowIsToldByItsTooltip()
 void tst_wholetext::aRowAsWideAsTheListHasNoTooltip()
 {
     LongRowsStage stage;
-    const int width = QFontMetrics(systemFont(11)).horizontalAdvance(kFirstLong);
+    const int width = qCeil(QFontMetricsF(systemFont(11)).horizontalAdvance(kFirstLong));
     stage.list.setFrame({0, 30, width, 140});
     QCOMPARE(toolTipAt(stage.list, {20, 30}), QString());
     stage.list.setFrame({0, 30, width - 1, 140});

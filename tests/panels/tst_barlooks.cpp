@@ -1,5 +1,6 @@
 #include "barsstage.h"
 #include "support/keyboard.h"
+#include "support/lettering.h"
 #include "support/pictures.h"
 #include "support/skinpictures.h"
 #include "support/suite.h"
@@ -108,11 +109,8 @@ void tst_barlooks::theTitleStandsOnTheOpenBar()
     const QRect place = UpHost(known->open.height).down(known->titleRect);
     QPixmap expected = skin(known->background);
     QPainter painter(&expected);
-    QFont font = QApplication::font();
-    font.setPixelSize(12);
-    painter.setFont(font);
-    painter.setPen(QColor(255, 180, 0));
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, QLatin1String(known->title));
+    painter.setPen(kGold);
+    writeLine(painter, QLatin1String(known->title), place, 12);
     painter.end();
     QVERIFY(shownPart(stage, *known, place) != picture(*known, place));
     QCOMPARE(shownPart(stage, *known, place),

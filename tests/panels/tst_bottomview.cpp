@@ -128,8 +128,7 @@ void tst_bottomview::theLabelStandsAboveItsControl()
     QFETCH(const KnownLight *, known);
     const PlainLighting stage;
     const QRect place = kOpenBar.down(known->labelRect);
-    const QImage expected =
-        withText(skin("bottomBar"), QLatin1String(known->label), place, 11, Qt::AlignLeft);
+    const QImage expected = withLine(skin("bottomBar"), QLatin1String(known->label), place, 11);
     QCOMPARE(shown(stage.content()).copy(place), expected);
     QVERIFY(expected != partOf("bottomBar", known->labelRect));
 }

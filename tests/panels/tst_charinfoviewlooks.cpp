@@ -1,4 +1,5 @@
 #include "charinfostage.h"
+#include "support/lettering.h"
 #include "support/pictures.h"
 #include "support/screen.h"
 #include "support/skinpictures.h"
@@ -66,10 +67,9 @@ void tst_charinfoviewlooks::labelsStandBesideTheirControls()
     const CharInfoStage stage;
     QPixmap expected = skin("charinfo_n");
     QPainter painter(&expected);
-    painter.setFont(systemFont(11));
-    painter.setPen(QColor(255, 180, 0));
-    painter.drawText(kCharInfoDialog.down(place), align | Qt::AlignVCenter | Qt::TextSingleLine,
-                     QString::fromLatin1(QTest::currentDataTag()));
+    painter.setPen(kGold);
+    writeLine(painter, QString::fromLatin1(QTest::currentDataTag()), kCharInfoDialog.down(place),
+              11, align);
     painter.end();
     const QImage part =
         expected.toImage().copy(kCharInfoDialog.down(place)).convertToFormat(QImage::Format_ARGB32);
@@ -128,13 +128,13 @@ void tst_charinfoviewlooks::theFieldWithTheKeyboardIsFramedBrightly()
     const CharInfoStage stage;
     const auto &field = stage.find<TextField>(QTest::currentDataTag());
     stage.click(other.constData());
-    QCOMPARE(charInfoEdge(stage, field, 1), QColor(7, 5, 4));
-    QCOMPARE(charInfoEdge(stage, field, 2), QColor(138, 108, 56));
+    QCOMPARE(charInfoEdge(stage, field, 1), kRim);
+    QCOMPARE(charInfoEdge(stage, field, 2), kGoldMiddle);
     stage.click(QTest::currentDataTag());
-    QCOMPARE(charInfoEdge(stage, field, 1), QColor(255, 223, 128));
+    QCOMPARE(charInfoEdge(stage, field, 1), kGoldBright);
     QCOMPARE(charInfoEdge(stage, field, 2), kGold);
     stage.click(other.constData());
-    QCOMPARE(charInfoEdge(stage, field, 1), QColor(7, 5, 4));
+    QCOMPARE(charInfoEdge(stage, field, 1), kRim);
 }
 
 void tst_charinfoviewlooks::aWindowWithoutTheKeyboardFramesNoFieldBrightly()
@@ -145,7 +145,7 @@ void tst_charinfoviewlooks::aWindowWithoutTheKeyboardFramesNoFieldBrightly()
     QWidget other;
     other.show();
     CharInfoStage::giveKeyboardTo(other);
-    QCOMPARE(charInfoEdge(stage, stage.realm(), 2), QColor(138, 108, 56));
+    QCOMPARE(charInfoEdge(stage, stage.realm(), 2), kGoldMiddle);
     CharInfoStage::giveKeyboardTo(*stage.window);
     QCOMPARE(charInfoEdge(stage, stage.realm(), 2), kGold);
 }

@@ -1,4 +1,5 @@
 #include "levelstage.h"
+#include "support/lettering.h"
 #include "support/pictures.h"
 #include "support/screen.h"
 #include "support/skinpictures.h"
@@ -67,14 +68,10 @@ QRect litPart(const KnownLevel &known, int level)
     return inPicture(part);
 }
 
-void write(QPainter &painter, const char *text, UpRect place, int size, Qt::Alignment vertical)
+void write(QPainter &painter, const char *text, UpRect place, int size)
 {
-    QFont font = QApplication::font();
-    font.setPixelSize(size);
-    painter.setFont(font);
-    painter.setPen(QColor(255, 180, 0));
-    painter.drawText(inPicture(place), static_cast<int>(Qt::AlignLeft | vertical),
-                     QLatin1String(text));
+    painter.setPen(kGold);
+    writeLine(painter, QLatin1String(text), inPicture(place), size);
 }
 
 /// The bar at rest with all sliders at a level, without a CPI step.
@@ -84,9 +81,9 @@ QImage drawnBar(int level)
     const QPixmap lit = skin("leftbarO");
     QPixmap bar = dark;
     QPainter painter(&bar);
-    write(painter, "Mouse Properties", {70, 430, 130, 20}, 12, Qt::AlignVCenter);
+    write(painter, "Mouse Properties", {70, 430, 130, 20}, 12);
     for (const KnownLabel &label : kKnownLabels)
-        write(painter, label.text, label.place, kBarLabelSize, Qt::AlignTop);
+        write(painter, label.text, label.place, kBarLabelSize);
     painter.drawPixmap(inPicture(kCpiPlace), dark, inPicture(kCpiPlace));
     for (const KnownLevel &known : kKnownLevels) {
         const QRect whole = inPicture(known.place);
@@ -181,9 +178,7 @@ void tst_leftviewlooks::labelRows()
 void tst_leftviewlooks::everyTextFitsItsPlace()
 {
     QFETCH(const KnownLabel *, known);
-    QFont font = QApplication::font();
-    font.setPixelSize(kBarLabelSize);
-    const QFontMetrics metrics(font);
+    const QFontMetrics metrics(systemFont(kBarLabelSize));
     QVERIFY(metrics.horizontalAdvance(QLatin1String(known->text)) <= known->place.width);
     QVERIFY(metrics.height() <= known->place.height);
 }
