@@ -24,6 +24,7 @@ private Q_SLOTS:
     void otherButtonsPickNothing();
     void whatLiesOverItIsNotPicked();
     void withoutAnActionAPickIsJustKept();
+    void aFrameHidesNothingThatIsPicked();
     void itKeepsItsTag();
 };
 
@@ -198,6 +199,21 @@ void tst_pngcolorlist::itKeepsItsTag()
     QCOMPARE(stage.list.tag(), 0);
     stage.list.setTag(4102);
     QCOMPARE(stage.list.tag(), 4102);
+}
+
+void tst_pngcolorlist::aFrameHidesNothingThatIsPicked()
+{
+    ColourStage stage;
+    const QImage plain = shown(stage.list);
+    stage.list.setFramed(true);
+    const QImage framed = shown(stage.list);
+    const QRect inner = stage.list.rect().adjusted(2, 2, -2, -2);
+    QCOMPARE(framed.copy(inner), plain.copy(inner));
+    QCOMPARE(framed.pixelColor(0, 50), kRim);
+    const QColor below = drawnColours().pixelColor(1, 50);
+    QVERIFY(below.alpha() == 255 && framed.pixelColor(1, 50) != below);
+    clickBetween(stage.list, {1, 50});
+    QCOMPARE(stage.picked(), below);
 }
 
 KYR_GUI_TEST(tst_pngcolorlist)
