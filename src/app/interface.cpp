@@ -81,6 +81,7 @@ void Interface::showMainWindow()
     m_mainView->hide();
     m_mainWindow->show();
     m_mainView->awakeFromNib();
+    m_mainWindow->takeShape();
     m_mainView->show();
 }
 

@@ -1,7 +1,10 @@
 #include "controls/custumwindow.h"
 
+#include "controls/shapedcontent.h"
+#include "platform/compositing.h"
 #include "platform/keywindow.h"
 #include "platform/taskswitcher.h"
+#include "platform/windowshape.h"
 
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
@@ -60,6 +63,7 @@ void custumwindow::showEvent(QShowEvent *event)
 {
     if (windowType() == Qt::Tool && !event->spontaneous())
         keepOutOfTaskSwitcher(*this);
+    takeShape();
     View::showEvent(event);
 }
 
@@ -68,6 +72,33 @@ void custumwindow::resizeEvent(QResizeEvent *event)
     View::resizeEvent(event);
     if (m_contentView)
         m_contentView->setFrame({0, 0, width(), height()});
+    takeShape();
+}
+
+/// In pixels of the screen; none where the content has no shape or has not come yet.
+QRegion custumwindow::contentShape() const
+{
+    const auto *const content = dynamic_cast<const ShapedContent *>(m_contentView.data());
+    if (!content || content->background().isNull() || isComposited())
+        return {};
+    const SkinImage &picture = content->background();
+    const QSize size = picture.size();
+    const UpPoint origin = content->backgroundOrigin();
+    const QPoint corner =
+        UpHost(height()).down(UpRect{origin.x, origin.y, size.width(), size.height()}).topLeft();
+    const qreal scale = devicePixelRatio();
+    return opaqueShape(picture, scale).translated((QPointF(corner) * scale).toPoint());
+}
+
+void custumwindow::takeShape()
+{
+    if (!isVisible())
+        return;
+    const QRegion shape = contentShape();
+    if (shape.isEmpty() && !m_isCutOut)
+        return;
+    shapeWindow(*this, shape);
+    m_isCutOut = !shape.isEmpty();
 }
 
 void custumwindow::center()
@@ -157,6 +188,8 @@ bool custumwindow::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowActivate && m_entry && focusWidget())
         focusWidget()->setFocus(*std::exchange(m_entry, {}));
+    if (event->type() == compositingChangedEvent())
+        takeShape();
     return View::event(event);
 }
 

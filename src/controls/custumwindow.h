@@ -17,7 +17,9 @@ UpPoint draggedOrigin(UpRect frame, UpPoint location, UpPoint initialLocation, U
 UpRect visibleFrame(const QWidget &window, const QScreen &screen);
 
 /// A borderless window of the program: it can take the keyboard, its skin's transparent parts show
-/// what is behind it, and where wanted it is dragged by any point of its background.
+/// what is behind it, and where wanted it is dragged by any point of its background. On a desktop
+/// where nothing shows behind see-through pixels it is cut out in the shape of its content, if that
+/// is a ShapedContent.
 class custumwindow : public View
 {
 public:
@@ -27,6 +29,9 @@ public:
 
     /// Fills the window with `view`, at every size; the window then owns it.
     void setContentView(View *view);
+    /// Takes the shape of the content's background as it is now. By itself the window does so when
+    /// it comes to the screen and when its size changes.
+    void takeShape();
 
     /// Whether dragging the background moves the window; at first it does not.
     bool bCanDragWindow() const { return m_bCanDragWindow; }
@@ -66,7 +71,10 @@ private:
     std::vector<QWidget *> tabStops() const;
     bool enterByTab(Qt::FocusReason reason);
 
+    QRegion contentShape() const;
+
     QPointer<View> m_contentView;
+    bool m_isCutOut = false;
     bool m_bCanDragWindow = false;
     QPointer<custumwindow> m_dragMoves;
     QPointer<custumwindow> m_tabPrevious;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/faces.h"
+#include "controls/shapedcontent.h"
 #include "dialogs/ModalDialog.h"
 
 #include <span>
@@ -27,7 +28,7 @@ struct DialogLayout
 /// The insides of a window with a title, a message and a few buttons, which is run modally: what
 /// all message dialogs share. Return without a button that has the keyboard presses the first one,
 /// the tab and arrow keys move between them.
-class MessageDialog : public ModalDialog
+class MessageDialog : public ModalDialog, public ShapedContent
 {
 public:
     /// A click on a button: answers the dialog with the button's tag.
@@ -36,6 +37,7 @@ public:
     const QString &strCaption() const { return m_caption; }
     /// The message; its lines, where each has a place of its own.
     QString strText() const { return m_texts.join(u'\n'); }
+    const SkinImage &background() const override { return BKImage; }
 
 protected:
     /// The layout is kept by reference: it belongs to the program's tables.

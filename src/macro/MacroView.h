@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/shapedcontent.h"
 #include "controls/textfields.h"
 #include "dialogs/ModalDialog.h"
 #include "macro/MacroDisplay.h"
@@ -15,7 +16,7 @@ class SkinScrollArea;
 /// It works on a copy, which OK writes into the current profile; the settings file is not written.
 /// What the controls hold belongs to the copy only from OK on: a change of the mode shows the copy
 /// again and drops what was typed and recorded, on purpose.
-class MacroView : public ModalDialog
+class MacroView : public ModalDialog, public ShapedContent
 {
 public:
     static constexpr int kWidth = macrolayout::kWidth;
@@ -51,6 +52,7 @@ public:
     bool hasSaved() const { return m_hasSaved; }
     /// A click on a control, told apart by its tag; others are ignored.
     void buttonAction(HoverButton *sender);
+    const SkinImage &background() const override { return BKImage; }
 
 protected:
     void drawRect(Canvas &canvas) override;

@@ -4,6 +4,7 @@
 #include "controls/contextmenu.h"
 #include "controls/pngProgressBar.h"
 #include "controls/popuplist.h"
+#include "controls/shapedcontent.h"
 #include "driver/driverlink.h"
 #include "mainview/controltable.h"
 #include "mainview/environment.h"
@@ -18,7 +19,10 @@ class PopupProgressBar;
 /// The content of the main window and the controller of the whole utility: it owns the settings
 /// store, the controls and the only link to the driver process. Profile indices are 0-based here,
 /// 1-based in the driver's messages. User-interface thread only.
-class MainView : public View, public MainContent, private UrlConnectionDelegate
+class MainView : public View,
+                 public MainContent,
+                 public ShapedContent,
+                 private UrlConnectionDelegate
 {
 public:
     MainView(Environment environment, QWidget *parent);
@@ -30,6 +34,8 @@ public:
     /// The controller of the bars; it outlives the view's use of it. To be set before
     /// awakeFromNib().
     void setWindowControll(windowcontroll *controll) { pWindowControll = controll; }
+
+    const SkinImage &background() const override { return BKImage; }
 
     // Controller (mainview_controller.cpp)
 

@@ -36,11 +36,12 @@ public:
     /// A player has changed the macros: the controller is told.
     void macrosChanged();
 
+    UpPoint backgroundOrigin() const override;
+
 protected:
     void toggleBar() override;
     void closeBar() override;
     bool isBarMin() const override;
-    UpPoint backgroundOrigin() const override;
 
 private:
     static constexpr std::size_t kPanelCount = 4;

@@ -2,6 +2,7 @@
 
 #include "app/windowcontroll.h"
 #include "controls/faces.h"
+#include "controls/shapedcontent.h"
 
 #include <span>
 
@@ -36,7 +37,7 @@ struct BarLook
 };
 
 /// The content of a bar: its background, title and labels, and the handle that opens and closes it.
-class BarView : public View
+class BarView : public View, public ShapedContent
 {
 public:
     /// `look` must outlive the view.
@@ -54,6 +55,7 @@ public:
     void SetMaxToggleImage();
     /// The handle's faces of the closed bar.
     void SetMinToggleImage();
+    const SkinImage &background() const override { return BKImage; }
 
 protected:
     void drawRect(Canvas &canvas) override;
@@ -71,10 +73,7 @@ protected:
     virtual void closeBar() = 0;
     /// Whether the controller reports this bar closed.
     virtual bool isBarMin() const = 0;
-    /// Where the background's lower left corner lies.
-    virtual UpPoint backgroundOrigin() const { return {}; }
 
-    const SkinImage &background() const { return BKImage; }
     windowcontroll &controller() const { return *pWindowControll; }
     HoverButton &toggleButton() const { return *btnToggle; }
 

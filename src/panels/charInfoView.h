@@ -2,6 +2,7 @@
 
 #include "controls/faces.h"
 #include "controls/popuplist.h"
+#include "controls/shapedcontent.h"
 #include "controls/textfields.h"
 #include "platform/keystrokes.h"
 
@@ -17,7 +18,7 @@ inline constexpr std::int32_t kCharInfoCancel = 0x1002;
 /// and name. It starts empty whatever the profile has. The profile gets what was entered on OK; OK
 /// with an empty field goes to that field instead; a realm has been stored by then, on purpose. The
 /// Return key is OK whatever button has the keyboard, Escape is Cancel.
-class charInfoView : public View
+class charInfoView : public View, public ShapedContent
 {
 public:
     static constexpr int kWidth = 453;
@@ -40,6 +41,7 @@ public:
     /// A choice in a list; in any but that of the regions it does nothing.
     void ListboxAction(pngListBox *sender);
     void CloseListBox(PopupContent *sender);
+    const SkinImage &background() const override { return BKImage; }
 
 protected:
     void drawRect(Canvas &canvas) override;
