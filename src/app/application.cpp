@@ -1,5 +1,6 @@
 #include "app/application.h"
 
+#include "app/appicon.h"
 #include "app/interface.h"
 #include "app/KyrGMAppDelegate.h"
 #include "app/skinpalette.h"
@@ -17,6 +18,7 @@ int runKyrGM(int argc, char **argv, const Places &places)
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("KyrGM"));
     QApplication::setFont(skinFont());
+    QGuiApplication::setDesktopFileName(QStringLiteral("KyrGM"));
     useSkinPalette();
 
     const auto notifications = NotificationCenter::distributed();
@@ -26,6 +28,7 @@ int runKyrGM(int argc, char **argv, const Places &places)
     const Interface interface({places.settingsPath, notifications.get(),
                                [] { QCoreApplication::exit(); }, &panels, openFile, openAddress,
                                places.hosts});
+    setIconOncePainted(interface.mainWindow());
     KyrGMAppDelegate delegate;
     delegate.setWindow(&interface.mainWindow());
     delegate.applicationDidFinishLaunching();
