@@ -38,13 +38,6 @@ inline Difference differenceOf(const QImage &one, const QImage &other, const QRe
     return {difference.mean / pixels, difference.share / pixels};
 }
 
-/// How far two pictures differ in one of the three colours.
-inline int stepBetween(QRgb one, QRgb other)
-{
-    return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
-                     std::abs(qBlue(one) - qBlue(other))});
-}
-
 /// Where a face that lies on the window's normal picture ends.
 struct Seam
 {

@@ -8,6 +8,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
 #include <vector>
 
 /// A row of the table that the skin is built from.
@@ -29,7 +30,7 @@ inline std::vector<PictureRow> pictureRows()
     std::vector<PictureRow> rows;
     for (QString line = text.readLine(); !line.isEmpty(); line = text.readLine()) {
         const QStringList fields = line.simplified().split(u' ');
-        if (fields.size() != 5)
+        if (fields.size() < 5)
             qFatal("not a row of the table: %s", qPrintable(line));
         rows.push_back({fields[0], fields[1], fields[2], {fields[3].toInt(), fields[4].toInt()}});
     }
@@ -43,6 +44,13 @@ inline QImage skinPixels(const QString &name)
         .pixmap()
         .toImage()
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+/// How far two pixels differ in one of the three colours.
+inline int stepBetween(QRgb one, QRgb other)
+{
+    return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                     std::abs(qBlue(one) - qBlue(other))});
 }
 
 /// Whether it shows nothing: one colour all over, or none.
