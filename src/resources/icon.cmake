@@ -3,7 +3,7 @@
 set(icon_sizes 16 22 24 32 48 64 128 256 512)
 set(icon_sizes_shown 16 24 32 48 64 128 256)
 # Up to this size a drawing of few points serves.
-set(icon_small 24)
+set(icon_small 32)
 
 set(icon_qrc ${skin_out}/icon.qrc)
 set(icon_cpp ${CMAKE_CURRENT_BINARY_DIR}/qrc_icon.cpp)
