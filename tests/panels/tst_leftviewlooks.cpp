@@ -96,6 +96,16 @@ QImage drawnBar(int level)
     return plain(bar);
 }
 
+/// The same bar as an empty screen shows it through its cut corners.
+QImage drawnOnScreen(int level)
+{
+    const QImage bar = drawnBar(level);
+    QImage screen(bar.size(), bar.format());
+    screen.fill(Qt::black);
+    QPainter(&screen).drawImage(QPoint(), bar);
+    return screen;
+}
+
 /// The bar opened with all levels at a number from the file and without a CPI step, and the pointer
 /// off its controls.
 struct LooksStage : LevelStage
@@ -235,10 +245,10 @@ void tst_leftviewlooks::aMovedSliderIsDrawnAnew()
 {
     QFETCH(const KnownLevel *, known);
     const LooksStage stage;
-    QCOMPARE(extentOfChange(drawnBar(5), onScreen(stage.left())), QRect());
-    QImage expected = drawnBar(5);
+    QCOMPARE(extentOfChange(drawnOnScreen(5), onScreen(stage.left())), QRect());
+    QImage expected = drawnOnScreen(5);
     const QRect place = inPicture(known->place);
-    QPainter(&expected).drawImage(place, drawnBar(8), place);
+    QPainter(&expected).drawImage(place, drawnOnScreen(8), place);
     pointer::click(stage.slider(*known), known->pointOf(8));
     stage.pointAway(kLeftBar);
     QCOMPARE(extentOfChange(expected, onScreen(stage.left())), QRect());
