@@ -59,8 +59,11 @@ void draw(Canvas &canvas, const Line &line)
     int size = line.size;
     while (!fits(line.text, line.rect, size) && size > line.size - mostSmaller)
         --size;
-    canvas.DrawMyTextwithColor(cutToFit(line.text, line.rect, size), line.rect, line.colour,
-                               TextAlign::Left, size);
+    const QString text = cutToFit(line.text, line.rect, size);
+    if (line.rect.height < 2 * line.size)
+        canvas.drawLine(text, line.rect, line.colour, TextAlign::Left, size);
+    else
+        canvas.DrawMyTextwithColor(text, line.rect, line.colour, TextAlign::Left, size);
 }
 
 } // namespace

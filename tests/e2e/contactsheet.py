@@ -96,7 +96,7 @@ class Sheet:
                 + "\n".join(self.elements) + "</svg>")
 
 
-def compose(pictures, file):
+def compose(tools, pictures, file):
     sheet = Sheet()
     for title, names in GROUPS.items():
         sheet.add_title(title)
@@ -104,10 +104,12 @@ def compose(pictures, file):
             sheet.add_row(name, files_of(pictures, name))
     forgotten = set(pictures.glob("*-at-?x.png")) - sheet.files
     assert not forgotten, f"not on the sheet: {sorted(forgotten)}"
-    drawing = pictures / "sheet.svg"
+    drawing, picture = pictures / "sheet.svg", pictures / "sheet.png"
     drawing.write_text(sheet.drawing())
-    subprocess.run(["rsvg-convert", "-o", file, drawing], check=True)
+    subprocess.run(["rsvg-convert", "-o", picture, drawing], check=True)
+    subprocess.run([tools / "pictureas", picture, file], check=True)
     drawing.unlink()
+    picture.unlink()
 
 
 def main(programs, tools, pictures, sheet):
@@ -118,7 +120,7 @@ def main(programs, tools, pictures, sheet):
         settings = pathlib.Path(folder) / "KT7R4Setting.xml"
         commands = ((tools / "kyrgm_at", settings), (programs / "kt7r4d", "--settings", settings))
         take_pictures(settings, commands, tools, pictures)
-    compose(pictures, sheet)
+    compose(tools, pictures, sheet)
     print(f"==> {sheet} has {sheet.stat().st_size // 1024} KiB")
 
 

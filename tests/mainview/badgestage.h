@@ -2,6 +2,7 @@
 
 #include "charactersettings.h"
 #include "portraitfiles.h"
+#include "support/lettering.h"
 #include "support/mainwindow.h"
 #include "support/skinpictures.h"
 
@@ -42,16 +43,18 @@ struct BadgeStage : MainWindowStage
         painter.drawImage(down(kPortraitPlace), portrait);
         const QColor gold(255, 180, 0);
         const auto write = [&](const QString &text, UpRect place, const QColor &colour, int size) {
-            painter.setFont(systemFont(size));
             painter.setPen(colour);
-            painter.drawText(down(place),
-                             Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextDontClip,
-                             text);
+            writeLine(painter, text, down(place), size);
         };
         write(texts.name, {129, 473, 70, 15}, gold, 11);
         write(texts.level, {129, 460, 70, 15}, Qt::white, 11);
         write(texts.className, {129, 445, 70, 15}, Qt::white, texts.classSize);
-        write(texts.realm, {129, 420, 73, 27}, gold, 10);
+        // The realm has two lines.
+        painter.setFont(systemFont(10));
+        painter.setPen(gold);
+        painter.drawText(down({129, 420, 73, 27}),
+                         Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextDontClip,
+                         texts.realm);
         return picture;
     }
 
