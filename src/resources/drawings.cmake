@@ -1,5 +1,5 @@
 # Lays the drawings of the skin out for rendering: a drawing finds other drawings and pictures only
-# beside it, and the grounds differ from scale to scale, so each scale has a folder of copies.
+# beside it, so they are copied into a folder, to those that the build makes.
 
 # Drawings that others take their definitions from.
 set(skin_shared materials faces ornaments mouse bars dialogs messagebox)
@@ -8,49 +8,52 @@ set(skin_grains leather forged)
 # Drawings whose ground is the same in all states. It is rendered once, for the same reason.
 set(skin_grounds main leftbar rightbar bottombar popup warnone warntwo macrowarn macro about charinfo)
 set(drawings ${CMAKE_CURRENT_BINARY_DIR}/drawings)
-file(MAKE_DIRECTORY ${skin_out} ${drawings}/1x ${drawings}/2x)
+set(skin_drawings)
+set(skin_definitions)
+file(MAKE_DIRECTORY ${skin_out} ${drawings})
 
-function(kyrgm_copy file to)
-    add_custom_command(OUTPUT ${to} COMMAND ${CMAKE_COMMAND} -E copy ${file} ${to}
-                       DEPENDS ${file} VERBATIM)
+function(kyrgm_drawing name)
+    add_custom_command(
+        OUTPUT ${drawings}/${name}.svg
+        COMMAND ${CMAKE_COMMAND} -E copy ${skin_dir}/${name}.svg ${drawings}/${name}.svg
+        DEPENDS ${skin_dir}/${name}.svg
+        VERBATIM)
 endfunction()
 
-foreach(grain IN LISTS skin_grains)
-    add_custom_command(
-        OUTPUT ${drawings}/2x/${grain}.png
-        COMMAND ${RSVG_CONVERT} -z 2 -o ${drawings}/2x/${grain}.png ${skin_dir}/${grain}.svg
-        DEPENDS ${skin_dir}/${grain}.svg
-        COMMENT "Rendering ${grain}"
-        VERBATIM)
-    kyrgm_copy(${drawings}/2x/${grain}.png ${drawings}/1x/${grain}.png)
+foreach(name IN LISTS skin_shared)
+    kyrgm_drawing(${name})
+    list(APPEND skin_definitions ${drawings}/${name}.svg)
 endforeach()
 
-foreach(scale 1 2)
-    set(folder ${drawings}/${scale}x)
-    set(skin_shared_${scale})
-    foreach(name IN LISTS skin_shared)
-        kyrgm_copy(${skin_dir}/${name}.svg ${folder}/${name}.svg)
-        list(APPEND skin_shared_${scale} ${folder}/${name}.svg)
-    endforeach()
-    foreach(grain IN LISTS skin_grains)
-        list(APPEND skin_shared_${scale} ${folder}/${grain}.png)
-    endforeach()
-    foreach(row IN LISTS kyrgm_pictures)
-        separate_arguments(row UNIX_COMMAND "${row}")
-        list(GET row 1 name)
-        list(APPEND skin_drawings_${scale} ${name})
-    endforeach()
-    list(REMOVE_DUPLICATES skin_drawings_${scale})
-    foreach(name IN LISTS skin_drawings_${scale})
-        kyrgm_copy(${skin_dir}/${name}.svg ${folder}/${name}.svg)
-    endforeach()
-    foreach(name IN LISTS skin_grounds)
-        add_custom_command(
-            OUTPUT ${folder}/${name}-ground.png
-            COMMAND ${RSVG_CONVERT} --stylesheet=${skin_dir}/ground.css -z ${scale}
-                    -o ${folder}/${name}-ground.png ${folder}/${name}.svg
-            DEPENDS ${folder}/${name}.svg ${skin_dir}/ground.css ${skin_shared_${scale}}
-            COMMENT "Rendering the ground of ${name}@${scale}x"
-            VERBATIM)
-    endforeach()
+foreach(name IN LISTS skin_grains)
+    add_custom_command(
+        OUTPUT ${drawings}/${name}.png
+        COMMAND ${RSVG_CONVERT} -z 2 -o ${drawings}/${name}.png ${skin_dir}/${name}.svg
+        DEPENDS ${skin_dir}/${name}.svg
+        COMMENT "Rendering ${name}"
+        VERBATIM)
+    list(APPEND skin_definitions ${drawings}/${name}.png)
+endforeach()
+
+foreach(row IN LISTS kyrgm_pictures)
+    separate_arguments(row UNIX_COMMAND "${row}")
+    list(GET row 1 name)
+    list(APPEND skin_drawings ${name})
+endforeach()
+list(REMOVE_DUPLICATES skin_drawings)
+foreach(name IN LISTS skin_drawings)
+    kyrgm_drawing(${name})
+endforeach()
+
+# Always at scale 2: lit at fewer points the relief of the metal has steps, so at scale 1 the same
+# picture serves, made smaller.
+foreach(name IN LISTS skin_grounds)
+    set(ground ${drawings}/${name}-ground.png)
+    add_custom_command(
+        OUTPUT ${ground}
+        COMMAND ${RSVG_CONVERT} --stylesheet=${skin_dir}/ground.css -z 2
+                -o ${ground} ${drawings}/${name}.svg
+        DEPENDS ${drawings}/${name}.svg ${skin_dir}/ground.css ${skin_definitions}
+        COMMENT "Rendering the ground of ${name}"
+        VERBATIM)
 endforeach()

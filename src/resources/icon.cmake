@@ -11,13 +11,13 @@ set(icon_files)
 set(icon_rows)
 
 foreach(name icon iconsmall)
-    kyrgm_copy(${skin_dir}/${name}.svg ${drawings}/2x/${name}.svg)
+    kyrgm_drawing(${name})
 endforeach()
 
 foreach(size IN LISTS icon_sizes)
-    set(drawing ${drawings}/2x/icon.svg)
+    set(drawing ${drawings}/icon.svg)
     if(size LESS_EQUAL icon_small)
-        set(drawing ${drawings}/2x/iconsmall.svg)
+        set(drawing ${drawings}/iconsmall.svg)
     endif()
     set(folder ${CMAKE_BINARY_DIR}/share/icons/hicolor/${size}x${size}/apps)
     set(png ${folder}/KyrGM.png)
@@ -25,7 +25,7 @@ foreach(size IN LISTS icon_sizes)
     add_custom_command(
         OUTPUT ${png}
         COMMAND ${RSVG_CONVERT} -w ${size} -h ${size} -o ${png} ${drawing}
-        DEPENDS ${drawing} ${skin_shared_2}
+        DEPENDS ${drawing} ${skin_definitions}
         COMMENT "Rendering the icon of ${size}"
         VERBATIM)
     list(APPEND icon_files ${png})

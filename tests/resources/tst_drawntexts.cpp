@@ -67,7 +67,7 @@ public:
     {
         for (const QString &name : QDir(source({})).entryList({QStringLiteral("*.svg")}))
             putBytes(path(name), withoutTexts(bytesOf(source(name))));
-        const QDir made(QStringLiteral(SKIN_FOLDER "/../drawings/2x"));
+        const QDir made(QStringLiteral(SKIN_FOLDER "/../drawings"));
         for (const QString &name : made.entryList({QStringLiteral("*.png")}))
             putBytes(path(name), bytesOf(made.filePath(name)));
     }
