@@ -10,12 +10,18 @@ set(icon_cpp ${CMAKE_CURRENT_BINARY_DIR}/qrc_icon.cpp)
 set(icon_files)
 set(icon_rows)
 
-foreach(name icon iconsmall)
+foreach(name icon iconpicture iconsmall)
     kyrgm_drawing(${name})
 endforeach()
+add_custom_command(
+    OUTPUT ${drawings}/icon.png
+    COMMAND ${RSVG_CONVERT} -z 8 -o ${drawings}/icon.png ${drawings}/icon.svg
+    DEPENDS ${drawings}/icon.svg ${skin_definitions}
+    COMMENT "Rendering the icon"
+    VERBATIM)
 
 foreach(size IN LISTS icon_sizes)
-    set(drawing ${drawings}/icon.svg)
+    set(drawing ${drawings}/iconpicture.svg)
     if(size LESS_EQUAL icon_small)
         set(drawing ${drawings}/iconsmall.svg)
     endif()
@@ -25,7 +31,7 @@ foreach(size IN LISTS icon_sizes)
     add_custom_command(
         OUTPUT ${png}
         COMMAND ${RSVG_CONVERT} -w ${size} -h ${size} -o ${png} ${drawing}
-        DEPENDS ${drawing} ${skin_definitions}
+        DEPENDS ${drawing} ${drawings}/icon.png ${skin_definitions}
         COMMENT "Rendering the icon of ${size}"
         VERBATIM)
     list(APPEND icon_files ${png})
