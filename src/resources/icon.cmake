@@ -40,12 +40,7 @@ foreach(size IN LISTS icon_sizes)
     endif()
 endforeach()
 
-file(CONFIGURE OUTPUT ${icon_qrc} @ONLY CONTENT
-"<RCC>
-  <qresource prefix=\"/icon\">
-@icon_rows@  </qresource>
-</RCC>
-")
+kyrgm_qrc(${icon_qrc} icon "${icon_rows}")
 add_custom_command(
     OUTPUT ${icon_cpp}
     COMMAND Qt6::rcc --no-compress --name icon -o ${icon_cpp} ${icon_qrc}
