@@ -45,6 +45,22 @@ private:
     QColor m_ink;
 };
 
+int scale()
+{
+    return qRound(qApp->devicePixelRatio());
+}
+
+/// Where the only text lies, in pixels.
+QRect inkOf(const TextRecorder &recorder)
+{
+    return recorder.texts().front().path.boundingRect().toAlignedRect();
+}
+
+QRect inPixels(QRect points)
+{
+    return {points.topLeft() * scale(), points.size() * scale()};
+}
+
 } // namespace
 
 void tst_textcontrast::textsAreRecordedAndNotDrawn()
@@ -53,9 +69,9 @@ void tst_textcontrast::textsAreRecordedAndNotDrawn()
     const TextRecorder recorder(written);
     QCOMPARE(textsOf(recorder), QStringLiteral("Ink"));
     QCOMPARE(recorder.texts().front().colour, QColor(Qt::red));
-    QVERIFY(
-        QRect(0, 0, 60, 20).contains(recorder.texts().front().path.boundingRect().toAlignedRect()));
-    QImage black(60, 20, QImage::Format_ARGB32_Premultiplied);
+    QVERIFY(inPixels({0, 0, 60, 20}).contains(inkOf(recorder)));
+    QVERIFY(inkOf(recorder).contains(inPixels({30, 10, 1, 1})));
+    QImage black(QSize(60, 20) * scale(), QImage::Format_ARGB32_Premultiplied);
     black.fill(Qt::black);
     QCOMPARE(recorder.picture(), black);
 }
@@ -68,11 +84,13 @@ void tst_textcontrast::everythingElseIsDrawn()
     written.setParent(&window);
     written.move(20, 10);
     const TextRecorder recorder(window);
-    QCOMPARE(recorder.picture().pixelColor(21, 11), QColor(Qt::blue));
-    QCOMPARE(recorder.picture().pixelColor(78, 28), QColor(Qt::green));
-    QCOMPARE(recorder.picture().pixelColor(1, 1), window.palette().color(QPalette::Window));
-    QVERIFY(QRect(20, 10, 60, 20)
-                .contains(recorder.texts().front().path.boundingRect().toAlignedRect()));
+    const auto colourAt = [&](QPoint point) {
+        return recorder.picture().pixelColor(point * scale());
+    };
+    QCOMPARE(colourAt({21, 11}), QColor(Qt::blue));
+    QCOMPARE(colourAt({78, 28}), QColor(Qt::green));
+    QCOMPARE(colourAt({1, 1}), window.palette().color(QPalette::Window));
+    QVERIFY(inPixels({20, 10, 60, 20}).contains(inkOf(recorder)));
 }
 
 void tst_textcontrast::aTextIsHeldAgainstWhatLiesBelowIt_data()
