@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/buttonrow.h"
 #include "controls/HoverButton.h"
 #include "controls/pngProgressBar.h"
 
@@ -17,20 +18,6 @@ struct Faces
 void setFaces(HoverButton &button, const Faces &faces, UpRect frame);
 /// A bar is the normal picture, the part up to its position the hover one.
 void setFaces(pngProgressBar &bar, const Faces &faces, UpRect frame);
-
-/// A button of a window, or a bar, as a row of the window's table.
-struct ButtonRow
-{
-    const char *name = ""; ///< the button's object name
-    UpRect frame;
-    int tag = 0;
-    const char *caption = "";     ///< written on it; empty where the skin says it
-    const char *description = ""; ///< what it is called for assistive technology
-    int arrowWidth = 0;           ///< of the field of an arrow at its right
-};
-
-/// The field of the arrow on a button that shows a value and opens a list.
-inline constexpr int kArrowField = 20;
 
 /// A button in `parent`, which owns it, drawn from two pictures of its own, by name: at rest, and
 /// pressed or on. It has no action yet.

@@ -4,10 +4,6 @@ namespace {
 
 constexpr UpRect kTexts[] = {{20, 62, 218, 18}, {20, 38, 218, 18}};
 
-constexpr ButtonRow kButtons[] = {
-    {"ButtonClose", {225, 144, 23, 23}, kDialogCloseTag, "", "Close"},
-};
-
 constexpr DialogLayout kLayout{
     .width = AboutView::kWidth,
     .height = AboutView::kHeight,
@@ -16,7 +12,7 @@ constexpr DialogLayout kLayout{
     .down = "about_d",
     .title = {34, 146, 190, 18},
     .texts = kTexts,
-    .buttons = kButtons,
+    .buttons = about::kButtons,
 };
 
 QString firmwareLine(std::uint32_t number)

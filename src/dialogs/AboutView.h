@@ -1,13 +1,14 @@
 #pragma once
 
+#include "dialogs/aboutcontrols.h"
 #include "dialogs/MessageDialog.h"
 
 /// The insides of the window that tells the versions of the program and of the mouse.
 class AboutView : public MessageDialog
 {
 public:
-    static constexpr int kWidth = 258;
-    static constexpr int kHeight = 176;
+    static constexpr int kWidth = about::kWidth;
+    static constexpr int kHeight = about::kHeight;
 
     explicit AboutView(QWidget *parent);
 

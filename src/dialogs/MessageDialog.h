@@ -2,14 +2,10 @@
 
 #include "controls/faces.h"
 #include "controls/shapedcontent.h"
+#include "dialogs/dialogtags.h"
 #include "dialogs/ModalDialog.h"
 
 #include <span>
-
-/// The tags of a message dialog's buttons; each is also the answer of who presses it.
-inline constexpr int kDialogCloseTag = 4096;
-inline constexpr int kDialogOKTag = 4097;
-inline constexpr int kDialogCancelTag = 4098;
 
 /// What a message dialog is made of.
 struct DialogLayout

@@ -4,7 +4,6 @@
 
 namespace {
 
-constexpr UpRect kBar{20, 18, 180, 16};
 constexpr UpRect kMessage{12, 44, 232, 15};
 constexpr UpRect kPercent{206, 18, 40, 16};
 constexpr int kTextSize = 11;
@@ -17,10 +16,11 @@ PopupProgressBar::PopupProgressBar(QWidget *parent)
       WriteToDeviceBar(new pngProgressBar(this))
 {
     setFrame({0, 0, kWidth, kHeight});
-    WriteToDeviceBar->setObjectName(QStringLiteral("WriteToDeviceBar"));
-    WriteToDeviceBar->setAccessibleName(QStringLiteral("Progress of the on-board write"));
-    WriteToDeviceBar->setFrame(kBar);
-    setFaces(*WriteToDeviceBar, {.normal = BKImage, .over = SkinImage::named("Pop_UP_over")}, kBar);
+    WriteToDeviceBar->setObjectName(QLatin1String(popup::kBar.name));
+    WriteToDeviceBar->setAccessibleName(QLatin1String(popup::kBar.description));
+    WriteToDeviceBar->setFrame(popup::kBar.frame);
+    setFaces(*WriteToDeviceBar, {.normal = BKImage, .over = SkinImage::named("Pop_UP_over")},
+             popup::kBar.frame);
     WriteToDeviceBar->setposRange(0, 100);
     WriteToDeviceBar->setAllowMouseChangeFlag(false);
 }

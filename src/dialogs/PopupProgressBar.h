@@ -2,14 +2,15 @@
 
 #include "controls/pngProgressBar.h"
 #include "controls/shapedcontent.h"
+#include "dialogs/popupcontrols.h"
 #include "platform/view.h"
 
 /// The insides of the window that shows the progress of an on-board write.
 class PopupProgressBar : public View, public ShapedContent
 {
 public:
-    static constexpr int kWidth = 256;
-    static constexpr int kHeight = 74;
+    static constexpr int kWidth = popup::kWidth;
+    static constexpr int kHeight = popup::kHeight;
 
     explicit PopupProgressBar(QWidget *parent);
 

@@ -4,11 +4,6 @@ namespace {
 
 constexpr UpRect kTexts[] = {{24, 56, 339, 82}};
 
-constexpr ButtonRow kButtons[] = {
-    {"ButtonClose", {354, 144, 23, 23}, kDialogCloseTag, "", "Close"},
-    {"ButtonOK", {135, 16, 117, 31}, kDialogOKTag, "OK", "OK"},
-};
-
 constexpr DialogLayout kLayout{
     .width = WarnOneView::kWidth,
     .height = WarnOneView::kHeight,
@@ -17,7 +12,7 @@ constexpr DialogLayout kLayout{
     .down = "warnone_d",
     .title = {33, 146, 320, 18},
     .texts = kTexts,
-    .buttons = kButtons,
+    .buttons = warnone::kButtons,
 };
 
 } // namespace

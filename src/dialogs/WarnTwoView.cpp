@@ -4,12 +4,6 @@ namespace {
 
 constexpr UpRect kTexts[] = {{24, 56, 339, 82}};
 
-constexpr ButtonRow kButtons[] = {
-    {"ButtonClose", {354, 144, 23, 23}, kDialogCloseTag, "", "Close"},
-    {"ButtonOK", {66, 16, 117, 31}, kDialogOKTag, "OK", "OK"},
-    {"ButtonCancel", {204, 16, 117, 31}, kDialogCancelTag, "Cancel", "Cancel"},
-};
-
 constexpr DialogLayout kLayout{
     .width = WarnTwoView::kWidth,
     .height = WarnTwoView::kHeight,
@@ -18,7 +12,7 @@ constexpr DialogLayout kLayout{
     .down = "warntwo_d",
     .title = {33, 146, 320, 18},
     .texts = kTexts,
-    .buttons = kButtons,
+    .buttons = warntwo::kButtons,
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogs/MessageDialog.h"
+#include "dialogs/warntwocontrols.h"
 #include "platform/action.h"
 
 /// The insides of a question: what its OK and its Cancel mean is set from outside, its close button
@@ -8,8 +9,8 @@
 class WarnTwoView : public MessageDialog
 {
 public:
-    static constexpr int kWidth = 387;
-    static constexpr int kHeight = 176;
+    static constexpr int kWidth = warntwo::kWidth;
+    static constexpr int kHeight = warntwo::kHeight;
 
     explicit WarnTwoView(QWidget *parent);
 

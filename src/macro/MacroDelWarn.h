@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogs/MessageDialog.h"
+#include "macro/macrowarncontrols.h"
 #include "platform/action.h"
 
 /// The insides of the question before a macro is deleted, with a box that switches the question
@@ -8,8 +9,8 @@
 class MacroDelWarn : public MessageDialog
 {
 public:
-    static constexpr int kWidth = 387;
-    static constexpr int kHeight = 176;
+    static constexpr int kWidth = macrowarn::kWidth;
+    static constexpr int kHeight = macrowarn::kHeight;
 
     explicit MacroDelWarn(QWidget *parent);
 

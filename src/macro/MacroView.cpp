@@ -1,5 +1,6 @@
 #include "macro/MacroView.h"
 
+#include "controls/faces.h"
 #include "controls/fieldframe.h"
 #include "controls/skinscrollarea.h"
 #include "macro/limitedLengthFormatter.h"

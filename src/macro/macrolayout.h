@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/faces.h"
+#include "controls/buttonrow.h"
 
 #include <algorithm>
 #include <iterator>

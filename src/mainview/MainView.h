@@ -2,6 +2,7 @@
 
 #include "app/windowcontroll.h"
 #include "controls/contextmenu.h"
+#include "controls/faces.h"
 #include "controls/pngProgressBar.h"
 #include "controls/popuplist.h"
 #include "controls/shapedcontent.h"

@@ -1,22 +1,13 @@
 #include "panels/BottomView.h"
 
 #include "model/settings.h"
+#include "panels/bottombarcontrols.h"
 
 #include <algorithm>
 
+using namespace bottombar;
+
 namespace {
-
-enum Tag {
-    kToggleTag = 4096,
-    kIntensityTag,
-    kPulsationTag,
-    kIntensityListTag,
-    kPulsationListTag,
-    kColorButtonTag,
-    kColorListTag,
-};
-
-constexpr UpRect kInside{0, 0, 466, 101};
 
 constexpr BarLook::Label kLabels[] = {
     {"Color", {20, 56, 125, 15}},
@@ -36,30 +27,8 @@ constexpr BarLook kLook{.background = "bottomBar",
                         .open = {"botmini1", "botmini2"},
                         .closed = {"botmini3", "botmini4"}};
 
-constexpr const char *kIntensities[] = {"High", "Medium", "Low", "Off"};
-constexpr const char *kPulsations[] = {"Fast", "Medium", "Low", "Off"};
-
-/// In the order of Level.
-constexpr LevelChoice::Look kLevels[] = {
-    {{"btnIntensity", {167, 25, 122, 29}, kIntensityTag, "", "Intensity", kArrowField},
-     kIntensityListTag,
-     kIntensities,
-     &ProfileInfo::LED_INTENSITY,
-     "IDC_LISTBOX_INTENSITY:%d"},
-    // Logged under the name of the intensity too, on purpose.
-    {{"btnPulsation", {314, 25, 122, 29}, kPulsationTag, "", "Pulsation", kArrowField},
-     kPulsationListTag,
-     kPulsations,
-     &ProfileInfo::LED_PULSATION,
-     "IDC_LISTBOX_INTENSITY:%d"},
-};
-
-constexpr UpRect kColorButton{20, 26, 122, 29};
 /// The colour picture covers the lower edge of its button.
-constexpr UpRect kColorList{kColorButton.x + 4, kColorButton.y - 96 + 3, 118, 96};
-
-static_assert(kInside.holds(kColorButton) && kInside.holds(kLevels[0].button.frame) &&
-              kInside.holds(kLevels[1].button.frame));
+constexpr UpRect kColorList{kColorButton.frame.x + 4, kColorButton.frame.y - 96 + 3, 118, 96};
 
 } // namespace
 
@@ -81,12 +50,12 @@ void BottomView::awakeFromNib()
 
 void BottomView::makeColorButton(View &parent, const Faces &skin)
 {
-    btnColorButton = new colorbutton(&parent, kColorButton);
-    btnColorButton->setObjectName(QStringLiteral("btnColorButton"));
-    btnColorButton->setAccessibleName(QStringLiteral("Color"));
-    btnColorButton->setTag(kColorButtonTag);
-    btnColorButton->setNormalImage(SkinImage::CopyImagefromrect(skin.normal, kColorButton));
-    btnColorButton->setHoverImage(SkinImage::CopyImagefromrect(skin.over, kColorButton));
+    btnColorButton = new colorbutton(&parent, kColorButton.frame);
+    btnColorButton->setObjectName(QLatin1String(kColorButton.name));
+    btnColorButton->setAccessibleName(QLatin1String(kColorButton.description));
+    btnColorButton->setTag(kColorButton.tag);
+    btnColorButton->setNormalImage(SkinImage::CopyImagefromrect(skin.normal, kColorButton.frame));
+    btnColorButton->setHoverImage(SkinImage::CopyImagefromrect(skin.over, kColorButton.frame));
     btnColorButton->setLeftDownAction({this, &BottomView::colorButtonDown});
 }
 

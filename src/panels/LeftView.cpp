@@ -1,13 +1,14 @@
 #include "panels/LeftView.h"
 
 #include "model/settings.h"
+#include "panels/leftbarcontrols.h"
 #include "platform/systemlog.h"
 
 #include <algorithm>
 
-namespace {
+using namespace leftbar;
 
-constexpr UpRect kInside{0, 0, 202, 452};
+namespace {
 
 constexpr BarLook::Label kLabels[] = {
     {"CPI Value:", {25, 360, 70, 20}},
@@ -30,55 +31,6 @@ constexpr BarLook kLook{.background = "leftBar",
                         .toggleDescription = "Mouse properties, open or close",
                         .open = {"leftmini1", "leftmini2"},
                         .closed = {"leftmini3", "leftmini4"}};
-
-/// The blank belongs to the text.
-constexpr const char *kDpiTexts[] = {" 800", " 1600", " 2400", " 3200", " 4000", " 5000"};
-constexpr int kDpiTag = 0x2001;
-constexpr LevelChoice::Look kDpi{
-    .button = {"btnDPI", {97, 358, 101, 27}, kDpiTag, "", "CPI value", kArrowField},
-    .listTag = 0x4000,
-    .texts = kDpiTexts,
-    .field = &ProfileInfo::DPI_VALUE,
-    .logLine = "IDC_LISTBOX_DPI:%d"};
-
-constexpr int kHorizontal = 1;
-constexpr int kVertical = 2;
-constexpr double kLeastLevel = 1;
-constexpr double kMostLevel = 10;
-
-/// A bar and the level of the profile that it edits.
-struct LevelRow
-{
-    ButtonRow bar;
-    int dirStyle = kHorizontal;
-    std::uint32_t ProfileInfo::*field = nullptr;
-    const char *logLine = "";
-};
-
-// clang-format off
-constexpr LevelRow kLevels[] = {
-    {{"dbClickSpeedBar", {42, 303, 124, 16}, 0x3000, "", "Double-click speed"}, kHorizontal,
-     &ProfileInfo::DBCLICK_SPEED,  "IDC_PROGRESSBAR_DBCLICK"},
-    {{"scrollSpeedBar",  {42, 260, 124, 16}, 0x3001, "", "Scroll speed"}, kHorizontal,
-     &ProfileInfo::SCROLL_SPEED,   "IDC_PROGRESSBAR_SCROLLSPEED"},
-    {{"pointSpeedBar",   {42, 222, 124, 16}, 0x3002, "", "Pointer speed"}, kHorizontal,
-     &ProfileInfo::SENSITIVITY,    "IDC_PROGRESSBAR_POINTSPEED"},
-    {{"advSensXBar",     {70, 62, 16, 112},  0x3003, "", "Sensitivity, X axis"}, kVertical,
-     &ProfileInfo::ADVANCED_SEN_X, "IDC_PROGRESSBAR_ADVSENSX"},
-    {{"advSensYBar",     {130, 62, 16, 112}, 0x3004, "", "Sensitivity, Y axis"}, kVertical,
-     &ProfileInfo::ADVANCED_SEN_Y, "IDC_PROGRESSBAR_ADVSENSY"},
-};
-// clang-format on
-
-consteval bool tableHolds()
-{
-    int tag = kLevels[0].bar.tag;
-    return kInside.holds(kDpi.button.frame) &&
-           std::ranges::all_of(kLevels, [&tag](const LevelRow &row) {
-               return row.bar.tag == tag++ && kInside.holds(row.bar.frame);
-           });
-}
-static_assert(tableHolds(), "controls inside the bar, levels in the order of their tags");
 
 } // namespace
 

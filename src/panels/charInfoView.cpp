@@ -8,9 +8,10 @@
 
 #include <QtWidgets/QApplication>
 
+using namespace charinfo;
+
 namespace {
 
-constexpr int kRegionTag = 0x1003;
 constexpr int kRegionListTag = 0x2000;
 constexpr int kLabelSize = 11;
 
@@ -28,14 +29,6 @@ constexpr Label kLabels[] = {
     {"Realm:", {10, 120, 100, 20}, TextAlign::Right},
     {"Character Name:", {15, 92, 100, 20}, TextAlign::Right},
     {"Region:", {296, 145, 85, 15}, TextAlign::Left},
-};
-
-/// In the order of the tab key, which the fields head.
-constexpr ButtonRow kButtons[] = {
-    {"ButtonRegion", {294, 115, 150, 29}, kRegionTag, "", "Region", kArrowField},
-    {"ButtonOK", {147, 7, 80, 35}, kCharInfoOK, "OK", "OK"},
-    {"ButtonCancel", {226, 7, 80, 35}, kCharInfoCancel, "Cancel", "Cancel"},
-    {"ButtonClose", {423, 187, 25, 25}, kCharInfoClose, "", "Close"},
 };
 
 constexpr std::array<const char *, kRegionCount> regionNames()

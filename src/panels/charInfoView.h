@@ -4,15 +4,11 @@
 #include "controls/popuplist.h"
 #include "controls/shapedcontent.h"
 #include "controls/textfields.h"
+#include "panels/charinfocontrols.h"
 #include "platform/keystrokes.h"
 
 #include <array>
 #include <cstdint>
-
-/// What ends the character dialog, by its buttons' tags.
-inline constexpr std::int32_t kCharInfoClose = 0x1000;
-inline constexpr std::int32_t kCharInfoOK = 0x1001;
-inline constexpr std::int32_t kCharInfoCancel = 0x1002;
 
 /// The insides of the dialog that names the game character of the current profile: region, realm
 /// and name. It starts empty whatever the profile has. The profile gets what was entered on OK; OK
@@ -21,8 +17,8 @@ inline constexpr std::int32_t kCharInfoCancel = 0x1002;
 class charInfoView : public View, public ShapedContent
 {
 public:
-    static constexpr int kWidth = 453;
-    static constexpr int kHeight = 215;
+    static constexpr int kWidth = charinfo::kWidth;
+    static constexpr int kHeight = charinfo::kHeight;
 
     explicit charInfoView(QWidget *parent);
 

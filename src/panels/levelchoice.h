@@ -2,23 +2,14 @@
 
 #include "controls/faces.h"
 #include "controls/popuplist.h"
-
-#include <span>
+#include "panels/levellook.h"
 
 /// A level of the current profile that is shown on a button and chosen from a list below it. The
 /// level's code is the number of its row.
 class LevelChoice
 {
 public:
-    /// What tells one from another.
-    struct Look
-    {
-        ButtonRow button;
-        int listTag = 0;
-        std::span<const char *const> texts; ///< by code
-        std::uint32_t ProfileInfo::*field = nullptr;
-        const char *logLine = ""; ///< with the row of a choice as "%d"
-    };
+    using Look = LevelLook;
 
     LevelChoice() = default;
     /// Makes the button in `parent`, which owns it; it has no action yet. `look` must outlive the

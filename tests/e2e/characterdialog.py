@@ -34,7 +34,7 @@ def open_dialog(stage):
 
 class CharacterDialog(DialogWindow):
     def __init__(self, stage):
-        super().__init__(stage, TITLE, control_rectangles("panels/charInfoView.cpp"))
+        super().__init__(stage, TITLE, control_rectangles("panels/charinfocontrols.h"))
 
     def type(self, text):
         """Into the field that has the keyboard."""

@@ -1,10 +1,8 @@
 """The left and the bottom bar with a profile's levels and lighting: where everything in them and in
 the lists they open lies on the screen, and what a player does with it."""
 
-import re
-
 from controlwindow import ControlWindow
-from stage import ROOT, ROW_HEIGHT, control_rectangles, let_time_pass, wait_for
+from stage import ROW_HEIGHT, control_rectangles, let_time_pass, wait_for
 
 # Each bar's title, the place of its handle from the main window's upper left corner, its open size.
 LEFT_BAR = "Mouse Properties", (-8, 320), (202, 452)
@@ -28,12 +26,6 @@ SLIDERS = {"DBCLICK_SPEED": "dbClickSpeedBar", "SCROLL_SPEED": "scrollSpeedBar",
            "ADVANCED_SEN_Y": "advSensYBar"}
 LEVELS = 9  # that the length of a slider is divided into
 SAME_PRESS = 0.2  # seconds
-
-
-def colour_button():
-    source = (ROOT / "src/panels/BottomView.cpp").read_text()
-    found = re.search(r"kColorButton\{(\d+), (\d+), (\d+), (\d+)\}", source)
-    return {COLOR: tuple(map(int, found.groups()))}
 
 
 def let_pass():
@@ -73,7 +65,7 @@ class MouseProperties(LevelBar):
     """The left bar."""
 
     def __init__(self, stage):
-        super().__init__(stage, LEFT_BAR, control_rectangles("panels/LeftView.cpp"))
+        super().__init__(stage, LEFT_BAR, control_rectangles("panels/leftbarcontrols.h"))
 
     def slider_point(self, key, level):
         """Where on the screen a slider stands for a level: past its end for the last ones."""
@@ -95,8 +87,7 @@ class Illumination(LevelBar):
     """The bottom bar."""
 
     def __init__(self, stage):
-        super().__init__(stage, BOTTOM_BAR,
-                         control_rectangles("panels/BottomView.cpp") | colour_button())
+        super().__init__(stage, BOTTOM_BAR, control_rectangles("panels/bottombarcontrols.h"))
 
     def picture_place(self):
         """Where the colour picture belongs."""

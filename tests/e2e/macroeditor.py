@@ -16,7 +16,7 @@ NAME, EVENTS, PASTED, START_KEY, SEND_KEY, LOOP_COUNT = (
 BACKGROUND = 225, 455, 20, 20  # of the editor, where nothing lies
 LIT = bytes((240, 207, 134))  # around the field that has the keyboard
 
-WARNING_CONTROLS = control_rectangles("macro/MacroDelWarn.cpp")
+WARNING_CONTROLS = control_rectangles("macro/macrowarncontrols.h")
 LIST_BUTTONS = control_rectangles("macro/rightbarMacro.cpp")
 EDITOR_BUTTONS = control_rectangles("macro/macrolayout.h")
 

@@ -23,13 +23,15 @@ MENU_SEPARATOR_HEIGHT = 3
 def control_rectangles(source):
     """A view's controls by name, as (x, y, width, height), y upwards, from its own table."""
     table = (ROOT / "src" / source).read_text()
-    rows = re.findall(r'\{"(\w+)", +\{(\d+), (\d+), (\d+), (\d+)\}', table)
+    rows = re.findall(r'\{\s*"(\w+)",\s+\{(\d+), (\d+), (\d+), (\d+)\}', table)
     return {name: tuple(map(int, box)) for name, *box in rows}
 
 
 CONTROLS = control_rectangles("mainview/controltable.h")
-DIALOGS = {name: control_rectangles(f"dialogs/{name}.cpp")
-           for name in ("WarnOneView", "WarnTwoView", "AboutView")}
+DIALOGS = {name: control_rectangles(f"dialogs/{table}.h")
+           for name, table in (("WarnOneView", "warnonecontrols"),
+                               ("WarnTwoView", "warntwocontrols"),
+                               ("AboutView", "aboutcontrols"))}
 MENU_TITLES = {"BtnProfileMenu": "Profile menu", "BtnToolsMenu": "Tools menu",
                "BtnHelpMenu": "Help menu"}
 
