@@ -7,16 +7,30 @@ set(skin_shared materials faces ornaments mouse bars dialogs messagebox)
 set(skin_grains leather forged)
 # Drawings whose ground is the same in all states. It is rendered once, for the same reason.
 set(skin_grounds main leftbar rightbar bottombar popup warnone warntwo macrowarn macro about charinfo)
+# Drawings whose faces stand where the program's tables say.
+set(skin_placed main leftbar bottombar popup warnone warntwo macrowarn macro about charinfo)
 set(drawings ${CMAKE_CURRENT_BINARY_DIR}/drawings)
 set(skin_drawings)
 set(skin_definitions)
 file(MAKE_DIRECTORY ${skin_out} ${drawings})
 
+# kyrgm_drawing(NAME [FILE]): copies a drawing, once a file is there that only this one includes.
 function(kyrgm_drawing name)
     add_custom_command(
         OUTPUT ${drawings}/${name}.svg
         COMMAND ${CMAKE_COMMAND} -E copy ${skin_dir}/${name}.svg ${drawings}/${name}.svg
-        DEPENDS ${skin_dir}/${name}.svg
+        DEPENDS ${skin_dir}/${name}.svg ${ARGN}
+        VERBATIM)
+endfunction()
+
+# A change in a table that leaves the places as they are renders nothing anew.
+function(kyrgm_places name to)
+    add_custom_command(
+        OUTPUT ${to}
+        COMMAND facelist ${name} ${to}.new
+        COMMAND ${CMAKE_COMMAND} -E copy_if_different ${to}.new ${to}
+        DEPENDS facelist
+        COMMENT "Placing the faces of ${name}"
         VERBATIM)
 endfunction()
 
@@ -42,7 +56,12 @@ foreach(row IN LISTS kyrgm_pictures)
 endforeach()
 list(REMOVE_DUPLICATES skin_drawings)
 foreach(name IN LISTS skin_drawings)
-    kyrgm_drawing(${name})
+    set(places)
+    if(name IN_LIST skin_placed)
+        set(places ${drawings}/${name}-places.svg)
+        kyrgm_places(${name} ${places})
+    endif()
+    kyrgm_drawing(${name} ${places})
 endforeach()
 
 # Always at scale 2: lit at fewer points the relief of the metal has steps, so at scale 1 the same

@@ -58,8 +58,8 @@ void render(const QStringList &options, const QString &drawing, const QString &p
         qFatal("cannot render %s", qPrintable(drawing));
 }
 
-/// The drawings of the skin without their texts, and the pictures in them that the build has made,
-/// in a folder of their own.
+/// The drawings of the skin without their texts, and the pictures and places in them that the build
+/// has made, in a folder of their own.
 class TextlessDrawings
 {
 public:
@@ -68,7 +68,8 @@ public:
         for (const QString &name : QDir(source({})).entryList({QStringLiteral("*.svg")}))
             putBytes(path(name), withoutTexts(bytesOf(source(name))));
         const QDir made(QStringLiteral(SKIN_FOLDER "/../drawings"));
-        for (const QString &name : made.entryList({QStringLiteral("*.png")}))
+        for (const QString &name :
+             made.entryList({QStringLiteral("*.png"), QStringLiteral("*-places.svg")}))
             putBytes(path(name), bytesOf(made.filePath(name)));
     }
 
