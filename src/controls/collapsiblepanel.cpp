@@ -6,7 +6,6 @@
 namespace {
 
 constexpr QColor kStrip(21, 21, 21);
-constexpr QColor kStripLit(255, 240, 208, 24);
 constexpr int kStripMargin = 2;
 constexpr int kTitleLeft = 168; // from the right edge
 constexpr int kTitleHeight = 15;
@@ -76,7 +75,7 @@ void CollapsiblePanel::drawRect(Canvas &canvas)
     if (m_look.isFilled)
         canvas.fill(canvas.bounds(), Qt::black);
     canvas.fill(strip, kStrip);
-    canvas.fill({strip.x, strip.y + strip.height - 1, strip.width, 1}, kStripLit);
+    canvas.fill({strip.x, strip.y + strip.height - 1, strip.width, 1}, kBevel);
     canvas.DrawMyTextwithColor(
         QLatin1String(m_look.title),
         {width() - kTitleLeft, top - m_look.titleDepth, width() - 2 * kStripMargin, kTitleHeight},

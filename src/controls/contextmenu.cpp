@@ -15,7 +15,6 @@ constexpr int kSeparatorHeight = 3;
 constexpr int kCheckColumn = 26;
 constexpr int kArrowColumn = 26;
 constexpr int kFrameWidth = 4;
-constexpr qreal kCorner = 5;
 constexpr qreal kRowCorner = 3;
 
 QLinearGradient downwards(const QRectF &rect, const QColor &top, const QColor &bottom)
@@ -50,10 +49,10 @@ void drawPanel(QPainter &painter, const QRectF &rect)
     painter.fillRect(rect, kRim);
     painter.setPen(QPen(downwards(rect, kGoldLight, kGoldDark), 1));
     painter.setBrush(downwards(rect, kMetal, kMetalDark));
-    painter.drawPolygon(plate(lineInside(rect, 1), kCorner));
+    painter.drawRect(lineInside(rect, 1));
     painter.setPen(kBevel);
     painter.setBrush(Qt::NoBrush);
-    painter.drawPolygon(plate(lineInside(rect, 2), kCorner - 0.5));
+    painter.drawRect(lineInside(rect, 2));
 }
 
 /// A line that fades towards the ends of `rect`, so many points below its top.

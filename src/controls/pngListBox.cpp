@@ -97,9 +97,8 @@ UpRect pngListBox::textPlace(int row) const
 {
     const UpRect whole = strip(row);
     const int side = isFramed() ? kPopupFrame + kFrameGap : 0;
-    // As much room below as above: the text stands in the middle of its row.
-    return {whole.x + side, whole.y + kTextInset, whole.width - 2 * side - m_rightMargin,
-            whole.height - 2 * kTextInset};
+    return {whole.x + side, whole.y, whole.width - 2 * side - m_rightMargin,
+            whole.height - kTextInset};
 }
 
 /// A light in a pop-up's edge: there the selected row alone would hardly show.

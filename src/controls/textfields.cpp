@@ -12,7 +12,6 @@ namespace {
 
 constexpr int kTextSize = 12;
 constexpr qsizetype kMostPasted = 32767;
-constexpr QColor kReadOnly(170, 170, 170);
 
 void setColours(QWidget &field, const QColor &ground)
 {
@@ -66,7 +65,7 @@ void TextField::refuseUnacceptable()
 void TextField::setEditable(bool editable)
 {
     setReadOnly(!editable);
-    setColours(*this, editable ? kWhite : kReadOnly);
+    setColours(*this, editable ? kWhite : kPaperGrey);
 }
 
 QString TextField::plainText() const

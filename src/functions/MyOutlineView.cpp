@@ -22,7 +22,6 @@ constexpr int kTextMargin = 2;
 constexpr int kStretch = 88; ///< per cent: the longest names just fit beside the scroll bar
 constexpr qreal kArrow = 3.5;
 constexpr QColor kHighlight(41, 41, 41);
-constexpr QColor kArrowColour(201, 162, 92);
 
 /// Rows of one height, whatever the desktop's style thinks.
 class RowDelegate : public QStyledItemDelegate
@@ -50,7 +49,7 @@ void drawArrow(QPainter &painter, QPointF middle, bool open)
     painter.translate(middle);
     painter.rotate(open ? 90 : 0);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(kArrowColour);
+    painter.setBrush(kGoldLight);
     painter.drawPolygon(right);
     painter.restore();
 }

@@ -3,15 +3,9 @@
 #include "macro/textcells.h"
 #include "platform/action.h"
 
-namespace {
-
-constexpr QColor kDisabled(170, 170, 170);
-
-} // namespace
-
 void MacroDisplay::drawRect(Canvas &canvas)
 {
-    canvas.fill(canvas.bounds(), m_bEnable ? kWhite : kDisabled);
+    canvas.fill(canvas.bounds(), m_bEnable ? kWhite : kPaperGrey);
     const QString text = GetMacroOutputString();
     drawCells(canvas, text);
     // By one line for each drawing, and not before it is over.

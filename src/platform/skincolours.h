@@ -20,6 +20,9 @@ inline constexpr QColor kGoldMiddle(150, 116, 60);
 inline constexpr QColor kGoldLight(201, 162, 92);
 inline constexpr QColor kGoldBright(240, 207, 134);
 
+/// The ground under text that cannot be changed: black letters stand on it.
+inline constexpr QColor kPaperGrey(170, 170, 170);
+
 /// Forged metal, from the gap around a part to its lit edge.
 inline constexpr QColor kRim(5, 5, 6);
 inline constexpr QColor kMetalRecess(11, 12, 14);
@@ -29,8 +32,7 @@ inline constexpr QColor kMetalRaised(42, 44, 48);
 /// The light from above on a part's upper edge.
 inline constexpr QColor kBevel(222, 232, 240, 28);
 
-/// The light from within, from its core to where it fades.
-inline constexpr QColor kMoonCore(234, 255, 248);
+/// The light from within, from where it is bright to where it fades.
 inline constexpr QColor kMoonBody(111, 216, 198);
 inline constexpr QColor kMoonDeep(15, 77, 72);
 inline constexpr QColor kMoonDark(7, 39, 36);
