@@ -62,7 +62,7 @@ void pngcolorlist::mouseUp(const ViewMouseEvent &event)
 /// there is none.
 QRgb pngcolorlist::colourAt(QPointF place) const
 {
-    const QPointF pixel = place * colorImage.pixmap().devicePixelRatio();
+    const QPointF pixel = place * colorImage.scale();
     const QPoint at(static_cast<int>(std::floor(pixel.x())),
                     static_cast<int>(std::floor(pixel.y())));
     return m_pixels.valid(at) ? m_pixels.pixel(at) : qRgba(0, 0, 0, 0);

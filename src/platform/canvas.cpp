@@ -134,14 +134,14 @@ void Canvas::drawImage(const SkinImage &image, UpPoint origin, qreal opacity)
         return;
     const UpRect place{origin.x, origin.y, image.size().width(), image.size().height()};
     m_painter.setOpacity(opacity);
-    m_painter.drawPixmap(m_host.down(place).topLeft(), image.pixmap());
+    m_painter.drawPixmap(m_host.down(place), image.pixmap(), image.pixmap().rect());
     m_painter.setOpacity(1.0);
 }
 
 void Canvas::drawImageScaled(const SkinImage &image, UpRect rect)
 {
     if (!image.isNull())
-        m_painter.drawPixmap(m_host.down(rect), image.pixmap());
+        m_painter.drawPixmap(m_host.down(rect), image.pixmap(), image.pixmap().rect());
 }
 
 void Canvas::drawImagePart(const SkinImage &image, UpPoint origin, QSize size)
@@ -152,7 +152,7 @@ void Canvas::drawImagePart(const SkinImage &image, UpPoint origin, QSize size)
     const UpRect part{0, 0, shown.width(), shown.height()};
     const QRect source = UpHost(image.size().height()).down(part);
     const QRect target = m_host.down(UpRect{origin.x, origin.y, part.width, part.height});
-    const qreal scale = image.pixmap().devicePixelRatio();
+    const qreal scale = image.scale();
     m_painter.drawPixmap(QRectF(target), image.pixmap(),
                          QRectF(QPointF(source.topLeft()) * scale, QSizeF(source.size()) * scale));
 }

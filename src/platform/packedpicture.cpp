@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -20,12 +21,20 @@ public:
     /// So many bytes to `to`; false, and none, where fewer are left.
     bool read(void *to, qsizetype count)
     {
-        if (count > m_left)
+        const char *const from = skip(count);
+        if (!from)
             return false;
-        std::memcpy(to, m_at, static_cast<std::size_t>(count));
-        m_at += count;
-        m_left -= count;
+        std::memcpy(to, from, static_cast<std::size_t>(count));
         return true;
+    }
+
+    /// Where so many bytes lie, and goes past them; null where fewer are left.
+    const char *skip(qsizetype count)
+    {
+        if (count > m_left)
+            return nullptr;
+        m_left -= count;
+        return std::exchange(m_at, m_at + count);
     }
 
 private:
@@ -46,19 +55,70 @@ bool isWithin(const PackedSpan &span, qsizetype pixels)
     return span.start >= 0 && span.count > 0 && span.start <= pixels - span.count;
 }
 
-/// False as soon as a span is wrong.
-bool readSpans(Reader &reader, uchar *pixels, qsizetype count)
+/// Draws so many pixels at `line` of a picture, from that column of it on, into the part.
+void putLine(QImage &into, const QRect &part, int line, int column, const char *pixels, int count)
 {
+    if (line < part.top() || line > part.bottom())
+        return;
+    const int from = std::max(column, part.left());
+    const int to = std::min(column + count, part.right() + 1);
+    if (from < to)
+        std::memcpy(into.scanLine(line - part.top()) + (from - part.left()) * kBytesPerPixel,
+                    pixels + (from - column) * kBytesPerPixel,
+                    static_cast<std::size_t>((to - from) * kBytesPerPixel));
+}
+
+/// A span may go on at the next lines.
+void putSpan(QImage &into, const QRect &part, int width, PackedSpan span, const char *pixels)
+{
+    while (span.count > 0) {
+        const int column = span.start % width;
+        const int count = std::min(span.count, width - column);
+        putLine(into, part, span.start / width, column, pixels, count);
+        pixels += count * kBytesPerPixel;
+        span = {span.start + count, span.count - count};
+    }
+}
+
+/// False as soon as a span is wrong.
+bool putSpans(QImage &into, const QRect &part, Reader &reader, QSize whole)
+{
+    const qsizetype pixels = qsizetype(whole.width()) * whole.height();
     while (!reader.isAtEnd()) {
         PackedSpan span;
-        if (!reader.read(&span, sizeof span) || !isWithin(span, count) ||
-            !reader.read(pixels + span.start * kBytesPerPixel, span.count * kBytesPerPixel))
+        if (!reader.read(&span, sizeof span) || !isWithin(span, pixels))
             return false;
+        const char *const bytes = reader.skip(span.count * kBytesPerPixel);
+        if (!bytes)
+            return false;
+        putSpan(into, part, whole.width(), span, bytes);
     }
     return true;
 }
 
+/// Shares the pixels of the whole.
+QImage partOf(const QImage &whole, const QRect &part)
+{
+    if (part == whole.rect())
+        return whole;
+    auto *const owner = new QImage(whole);
+    return {owner->constScanLine(part.y()) + part.x() * kBytesPerPixel,
+            part.width(),
+            part.height(),
+            owner->bytesPerLine(),
+            owner->format(),
+            [](void *image) { delete static_cast<QImage *>(image); },
+            owner};
+}
+
 } // namespace
+
+QSize packedSize(const QByteArray &packed)
+{
+    Reader reader(packed);
+    const auto head = readHead(reader);
+    return head ? QSize(head->width, head->height) : QSize();
+}
 
 QByteArray packedBase(const QByteArray &packed)
 {
@@ -90,14 +150,17 @@ QImage unpackedWhole(const QByteArray &packed)
     return isAligned ? picture : picture.copy();
 }
 
-QImage unpackedOver(const QImage &base, const QByteArray &packed)
+QImage unpackedPart(const QImage &base, const QByteArray &over, const QRect &part)
 {
-    Reader reader(packed);
+    if (part.isEmpty() || !base.rect().contains(part))
+        return {};
+    if (over.isEmpty())
+        return partOf(base, part);
+    Reader reader(over);
     const auto head = readHead(reader);
     if (!head || base.size() != QSize(head->width, head->height) ||
         base.format() != QImage::Format_ARGB32_Premultiplied)
         return {};
-    QImage picture = base.copy();
-    const qsizetype pixels = picture.sizeInBytes() / kBytesPerPixel;
-    return readSpans(reader, picture.bits(), pixels) ? picture : QImage();
+    QImage picture = base.copy(part);
+    return putSpans(picture, part, reader, base.size()) ? picture : QImage();
 }

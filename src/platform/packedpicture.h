@@ -22,6 +22,9 @@ struct PackedSpan
     qint32 count = 0;
 };
 
+/// The size of a packed picture in pixels; empty where it is not one.
+QSize packedSize(const QByteArray &packed);
+
 /// The name of a packed picture's base; empty where it has none or is not a picture.
 QByteArray packedBase(const QByteArray &packed);
 
@@ -30,6 +33,7 @@ QByteArray packedBase(const QByteArray &packed);
 /// as many pixels as it should, gives none.
 QImage unpackedWhole(const QByteArray &packed);
 
-/// A picture made of its base and what differs. Spans that lie outside or are cut short, and a base
-/// of another size, give none.
-QImage unpackedOver(const QImage &base, const QByteArray &packed);
+/// A part, in pixels, of a picture that is made of its base and of what differs, or of the base
+/// itself where `over` is empty: then it shares the base's bytes. Spans that lie outside of the
+/// picture or are cut short, a base of another size, and a part that is not all within, give none.
+QImage unpackedPart(const QImage &base, const QByteArray &over, const QRect &part);

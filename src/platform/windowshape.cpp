@@ -71,7 +71,7 @@ QRegion opaqueShape(const SkinImage &picture, qreal scale)
     const QPixmap &pixmap = picture.pixmap();
     if (!pixmap.hasAlphaChannel())
         return {};
-    const QSize size = (pixmap.deviceIndependentSize() * scale).toSize();
+    const QSize size = (QSizeF(picture.size()) * scale).toSize();
     QImage pixels = pixmap.toImage();
     if (pixels.size() != size)
         pixels = pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

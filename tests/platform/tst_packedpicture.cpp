@@ -52,7 +52,7 @@ std::vector<int> places(const QImage &picture, QRgb colour)
 
 QImage over(const QByteArray &packed, QSize baseSize = kSize)
 {
-    return unpackedOver(unpackedWhole(whole(baseSize)), packed);
+    return unpackedPart(unpackedWhole(whole(baseSize)), packed, QRect({}, baseSize));
 }
 
 } // namespace
@@ -71,6 +71,13 @@ private Q_SLOTS:
     void theBaseIsNamed();
     void whatDiffersLiesOverTheBase();
     void theBaseStaysAsItIs();
+    void aPartIsThatOfTheWhole_data();
+    void aPartIsThatOfTheWhole();
+    void aPartOfTheBaseIsNotCopied();
+    void whatIsNoPartGivesNone_data();
+    void whatIsNoPartGivesNone();
+    void aWrongSpanOutsideThePartGivesNone();
+    void theSizeIsInTheHead();
     void spansThatDoNotFitGiveNone_data();
     void spansThatDoNotFitGiveNone();
     void aBaseOfAnotherSizeGivesNone();
@@ -146,8 +153,71 @@ void tst_packedpicture::whatDiffersLiesOverTheBase()
 void tst_packedpicture::theBaseStaysAsItIs()
 {
     const QImage base = unpackedWhole(whole(kSize));
-    QVERIFY(!unpackedOver(base, head(kSize, "base") + span(0, 12)).isNull());
+    QVERIFY(!unpackedPart(base, head(kSize, "base") + span(0, 12), base.rect()).isNull());
     QVERIFY(places(base, kLit).empty());
+}
+
+void tst_packedpicture::aPartIsThatOfTheWhole_data()
+{
+    QTest::addColumn<QRect>("part");
+    QTest::newRow("all") << QRect(0, 0, 4, 3);
+    QTest::newRow("a column") << QRect(1, 0, 1, 3);
+    QTest::newRow("a line") << QRect(0, 1, 4, 1);
+    QTest::newRow("the middle") << QRect(1, 1, 2, 1);
+    QTest::newRow("upper left") << QRect(0, 0, 2, 2);
+    QTest::newRow("lower right") << QRect(2, 1, 2, 2);
+}
+
+void tst_packedpicture::aPartIsThatOfTheWhole()
+{
+    QFETCH(const QRect, part);
+    const QImage base = unpackedWhole(whole(kSize));
+    // One goes on from the first line through the second to the third.
+    for (const QByteArray &spans : {span(2, 7), span(0, 1) + span(5, 1) + span(11, 1)}) {
+        const QByteArray packed = head(kSize, "base") + spans;
+        QCOMPARE(unpackedPart(base, packed, part), over(packed).copy(part));
+    }
+}
+
+void tst_packedpicture::aPartOfTheBaseIsNotCopied()
+{
+    const QByteArray packed = whole(kSize);
+    const void *const begin = packed.constData() + kHeadBytes + (4 + 2) * sizeof(QRgb);
+    const QImage part = unpackedPart(unpackedWhole(packed), {}, {2, 1, 2, 2});
+    QCOMPARE(part.size(), QSize(2, 2));
+    QCOMPARE(static_cast<const void *>(part.constBits()), begin);
+    QCOMPARE(places(part, kGround).size(), std::size_t{4});
+}
+
+void tst_packedpicture::whatIsNoPartGivesNone_data()
+{
+    QTest::addColumn<QRect>("part");
+    QTest::newRow("empty") << QRect(1, 1, 0, 1);
+    QTest::newRow("beyond the right") << QRect(3, 0, 2, 1);
+    QTest::newRow("beyond the bottom") << QRect(0, 2, 1, 2);
+    QTest::newRow("before the left") << QRect(-1, 0, 2, 1);
+}
+
+void tst_packedpicture::whatIsNoPartGivesNone()
+{
+    QFETCH(const QRect, part);
+    const QImage base = unpackedWhole(whole(kSize));
+    QVERIFY(unpackedPart(base, {}, part).isNull());
+    QVERIFY(unpackedPart(base, head(kSize, "base") + span(0, 12), part).isNull());
+}
+
+void tst_packedpicture::aWrongSpanOutsideThePartGivesNone()
+{
+    const QByteArray packed = head(kSize, "base") + span(11, 2);
+    QVERIFY(unpackedPart(unpackedWhole(whole(kSize)), packed, {0, 0, 1, 1}).isNull());
+}
+
+void tst_packedpicture::theSizeIsInTheHead()
+{
+    QCOMPARE(packedSize(whole(kSize)), kSize);
+    QCOMPARE(packedSize(head(kSize, "base")), kSize);
+    QVERIFY(packedSize("mainbk").isEmpty());
+    QVERIFY(packedSize(head({4, -3}, "")).isEmpty());
 }
 
 void tst_packedpicture::spansThatDoNotFitGiveNone_data()
@@ -178,8 +248,8 @@ void tst_packedpicture::aBaseOfAnotherSizeGivesNone()
 
 void tst_packedpicture::noBaseGivesNone()
 {
-    QVERIFY(unpackedOver(QImage(), head(kSize, "base") + span(0, 1)).isNull());
-    QVERIFY(unpackedOver(QImage(), QByteArray()).isNull());
+    QVERIFY(unpackedPart(QImage(), head(kSize, "base") + span(0, 1), QRect({}, kSize)).isNull());
+    QVERIFY(unpackedPart(QImage(), QByteArray(), QRect({}, kSize)).isNull());
 }
 
 KYR_PLAIN_TEST(tst_packedpicture)

@@ -16,6 +16,9 @@ private Q_SLOTS:
     void everyPictureHasItsSize_data();
     void everyPictureHasItsSize();
     void aStateDiffersFromTheNormalOneOnlyInTheControls();
+    void aPartOfANamedPictureIsThatOfItsPixels_data();
+    void aPartOfANamedPictureIsThatOfItsPixels();
+    void aPartOfAPartIsCutFromThat();
 };
 
 void tst_skinimage::aPartIsCutOutUpwards()
@@ -88,6 +91,39 @@ void tst_skinimage::aStateDiffersFromTheNormalOneOnlyInTheControls()
         QVERIFY2(state.copy(control) != normal.copy(control), name);
         QVERIFY2(state.copy(ground) == normal.copy(ground), name);
     }
+}
+
+void tst_skinimage::aPartOfANamedPictureIsThatOfItsPixels_data()
+{
+    QTest::addColumn<UpRect>("part");
+    QTest::newRow("Button1") << UpRect{234, 443, 97, 27};
+    QTest::newRow("all") << UpRect{0, 0, 654, 640};
+    QTest::newRow("over the edge") << UpRect{600, -20, 100, 60};
+}
+
+void tst_skinimage::aPartOfANamedPictureIsThatOfItsPixels()
+{
+    QFETCH(const UpRect, part);
+    for (const char *name : {"mainbk", "mainO"}) {
+        const SkinImage whole = SkinImage::named(name);
+        const SkinImage cut = SkinImage::CopyImagefromrect(whole, part);
+        QCOMPARE(cut.size(), QSize(part.width, part.height));
+        const QImage expected = whole.pixmap()
+                                    .toImage()
+                                    .copy(UpHost(640).down(part))
+                                    .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        QCOMPARE(cut.pixmap().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                 expected);
+    }
+}
+
+void tst_skinimage::aPartOfAPartIsCutFromThat()
+{
+    const SkinImage whole = SkinImage::named("mainO");
+    const SkinImage part = SkinImage::CopyImagefromrect(whole, {230, 440, 110, 40});
+    const SkinImage inner = SkinImage::CopyImagefromrect(part, {4, 3, 97, 27});
+    const SkinImage same = SkinImage::CopyImagefromrect(whole, {234, 443, 97, 27});
+    QCOMPARE(inner.pixmap().toImage(), same.pixmap().toImage());
 }
 
 KYR_GUI_TEST(tst_skinimage)

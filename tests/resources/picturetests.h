@@ -26,4 +26,12 @@ private Q_SLOTS:
         QCOMPARE(picture.pixmap().size(), size * qApp->devicePixelRatio());
         QVERIFY(!isBlank(picture.pixmap().toImage()));
     }
+
+    /// Where it lies in the program, at every resolution.
+    void aPictureWithoutABaseIsNotCopied()
+    {
+        const QImage one = SkinImage::named("mainbk").pixmap().toImage();
+        const QImage other = SkinImage::named("mainbk").pixmap().toImage();
+        QCOMPARE(one.constBits(), other.constBits());
+    }
 };
