@@ -1,7 +1,5 @@
 #pragma once
 
-class QWidget;
-
-/// Gives the program its icon once `window` has been painted for the first time: what the desktop
-/// shows of the program beside its windows must not hold them up.
-void setIconOncePainted(QWidget &window);
+/// Gives the program its icon. It takes some milliseconds: what the desktop shows of the program
+/// beside its windows must not hold them up.
+void setIcon();

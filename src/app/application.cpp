@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include "app/appicon.h"
+#include "app/firstpainting.h"
 #include "app/interface.h"
 #include "app/KyrGMAppDelegate.h"
 #include "app/skinpalette.h"
@@ -10,7 +11,22 @@
 #include "platform/notificationcenter.h"
 #include "platform/opening.h"
 
+#include <QtGui/QFontDatabase>
 #include <QtWidgets/QApplication>
+
+#include <thread>
+
+namespace {
+
+/// Reading the list of the installed fonts takes longest of all that the first picture waits for,
+/// and needs nothing of the program's: it is read while the display and the desktop put up the
+/// window.
+void findFonts()
+{
+    QFontDatabase::families();
+}
+
+} // namespace
 
 int runKyrGM(int argc, char **argv, const Places &places)
 {
@@ -20,6 +36,7 @@ int runKyrGM(int argc, char **argv, const Places &places)
     QApplication::setFont(skinFont());
     QGuiApplication::setDesktopFileName(QStringLiteral("KyrGM"));
     useSkinPalette();
+    const std::jthread fonts(findFonts);
 
     const auto notifications = NotificationCenter::distributed();
     // Not quit(): that asks the windows to close first, and to the main window closing means to
@@ -28,7 +45,7 @@ int runKyrGM(int argc, char **argv, const Places &places)
     const Interface interface({places.settingsPath, notifications.get(),
                                [] { QCoreApplication::exit(); }, &panels, openFile, openAddress,
                                places.hosts});
-    setIconOncePainted(interface.mainWindow());
+    afterFirstPainting(interface.mainWindow(), setIcon);
     KyrGMAppDelegate delegate;
     delegate.setWindow(&interface.mainWindow());
     delegate.applicationDidFinishLaunching();

@@ -1,5 +1,6 @@
 #include "app/interface.h"
 
+#include "app/firstpainting.h"
 #include "app/windowcontroll.h"
 #include "mainview/MainView.h"
 #include "panels/BottomView.h"
@@ -63,7 +64,7 @@ Interface::Interface(const Environment &environment)
     m_controll->setMainContent(m_mainView);
     m_mainView->setWindowControll(m_controll.get());
     showMainWindow();
-    showBars();
+    afterFirstPainting(*m_mainWindow, [this] { showBars(); });
 }
 
 Interface::~Interface() = default;

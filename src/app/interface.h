@@ -14,7 +14,7 @@ class Interface
 {
 public:
     /// Makes the main window in the middle of the screen with the main view in it, shows it and
-    /// wakes the view up; then the three bars, closed, at its sides.
+    /// wakes the view up. Once that has been painted come the three bars, closed, at its sides.
     explicit Interface(const Environment &environment);
     ~Interface();
     Interface(const Interface &) = delete;

@@ -1,3 +1,4 @@
+#include "app/firstpainting.h"
 #include "app/KyrGMAppDelegate.h"
 #include "support/drop.h"
 #include "support/mainwindow.h"
@@ -13,6 +14,9 @@ private Q_SLOTS:
     void theMainWindowStandsInTheMiddleOfTheScreen();
     void theMainViewFillsTheWindow();
     void theWindowIsShownAtOnce();
+    void theBarsComeAfterTheFirstPainting();
+    void whatComesAfterTheFirstPaintingComesInOrder();
+    void aWindowThatIsGoneHasNoFirstPainting();
     void theBackgroundDragsTheWindow();
     void aButtonDoesNotDragTheWindow_data();
     void aButtonDoesNotDragTheWindow();
@@ -21,6 +25,43 @@ private Q_SLOTS:
     void theDelegateRefersToItsWindow();
     void theDelegateForgetsAWindowThatIsGone();
 };
+
+namespace {
+
+/// Counts the bars that are there when the main view is painted for the first time.
+class PaintWatch : public QObject
+{
+public:
+    PaintWatch() { qApp->installEventFilter(this); }
+
+    int barsAtFirstPainting = -1;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && dynamic_cast<MainView *>(watched))
+            count();
+        return false;
+    }
+
+private:
+    void count()
+    {
+        qApp->removeEventFilter(this);
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        const auto isBar = [](const QWidget *window) {
+            return window->windowType() == Qt::Tool && window->isVisible();
+        };
+        barsAtFirstPainting = static_cast<int>(std::ranges::count_if(windows, isBar));
+    }
+};
+
+const QWidget &bar(const QWidget &main, const char *name)
+{
+    return *main.findChild<custumwindow *>(QLatin1String(name));
+}
+
+} // namespace
 
 void tst_interface::theMainWindowHasItsSizeAndTitle()
 {
@@ -55,6 +96,42 @@ void tst_interface::theWindowIsShownAtOnce()
     const Interface interface({settings.path(), &center, [] {}});
     QVERIFY(interface.mainWindow().isVisible());
     QVERIFY(interface.mainView().isVisible());
+}
+
+void tst_interface::theBarsComeAfterTheFirstPainting()
+{
+    PaintWatch watch;
+    const MainWindowStage stage;
+    QCOMPARE(watch.barsAtFirstPainting, 0);
+    for (const char *name : {"LeftBar", "RightBar", "BottomBar"})
+        QVERIFY2(bar(stage.window(), name).isVisible(), name);
+}
+
+void tst_interface::whatComesAfterTheFirstPaintingComesInOrder()
+{
+    QWidget window;
+    window.show();
+    std::vector<int> calls;
+    for (int number = 0; number < 3; ++number)
+        afterFirstPainting(window, [&calls, number] { calls.push_back(number); });
+    QCOMPARE(calls, std::vector<int>{});
+    QTRY_COMPARE(calls, (std::vector{0, 1, 2}));
+    window.hide();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(calls.size(), std::size_t{3});
+}
+
+void tst_interface::aWindowThatIsGoneHasNoFirstPainting()
+{
+    bool called = false;
+    {
+        QWidget window;
+        window.show();
+        afterFirstPainting(window, [&called] { called = true; });
+    }
+    QCoreApplication::processEvents();
+    QVERIFY(!called);
 }
 
 void tst_interface::theBackgroundDragsTheWindow()

@@ -31,8 +31,16 @@ struct MainWindowStage
             path, &center, [this] { ++quits; }, &panels,
             [this](const std::string &file) { openedFiles.push_back(file); },
             [this](const std::string &address) { openedAddresses.push_back(address); }, hosts});
-        if (!QTest::qWaitForWindowActive(&window()))
+        if (!QTest::qWaitForWindowActive(&window()) ||
+            !QTest::qWaitFor([this] { return hasBars(); }))
             qFatal("the main window does not come up");
+    }
+
+    /// Whether the last of the bars is there, which come after the main window.
+    bool hasBars() const
+    {
+        const auto *const last = window().findChild<custumwindow *>(QStringLiteral("BottomBar"));
+        return last && last->isVisible();
     }
 
     custumwindow &window() const { return interface->mainWindow(); }
