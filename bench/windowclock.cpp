@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
+#include <thread>
 
 namespace {
 
@@ -114,10 +115,13 @@ unsigned WindowClock::managedWindows() const
     return rootValues("_NET_CLIENT_LIST");
 }
 
+/// Looks now and then: looking all the time would take the display, and one of the processors, from
+/// the program that is measured.
 void WindowClock::waitForPixel(bool black)
 {
-    while (isMiddleBlack() != black) {
-    }
+    constexpr std::chrono::microseconds betweenLooks(200);
+    while (isMiddleBlack() != black)
+        std::this_thread::sleep_for(betweenLooks);
 }
 
 bool WindowClock::isMiddleBlack()
