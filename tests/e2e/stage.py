@@ -12,6 +12,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 MAIN_TITLE = "Kyr Torvane MMO Gaming Mouse"
+LAST_BAR_TITLE = "Illumination Settings"
 LIST_TITLE = "Basic Functions"
 VIEW_HEIGHT = 640
 ROW_HEIGHT = 20
@@ -275,9 +276,11 @@ class Stage:
     # The main window
 
     def wait_for_main_window(self):
-        """Waits until it has the keyboard and is painted: the screen behind it is black."""
+        """Waits until it has the keyboard and is painted, the screen behind it being black, and
+        until the last of its bars is there, which come after it."""
         self.wait_for_active(MAIN_TITLE)
         wait_for(lambda: any(self.pixels(self.control_box("ButtonApply"))), "a painted window")
+        self.wait_for_window(LAST_BAR_TITLE)
 
     def at(self, point):
         """On the screen, what is given from the window's upper left corner."""
