@@ -34,7 +34,8 @@ def open_dialog(stage):
 
 class CharacterDialog(DialogWindow):
     def __init__(self, stage):
-        super().__init__(stage, TITLE, control_rectangles("panels/charinfocontrols.h"))
+        super().__init__(stage, TITLE, control_rectangles("panels/charinfocontrols.h")
+                         | control_rectangles("panels/charInfoView.cpp"))
 
     def type(self, text):
         """Into the field that has the keyboard."""
