@@ -56,8 +56,8 @@ constexpr Face kBarFaces[] = {
     {"advSensXBar", "track-up"},
     {"advSensYBar", "track-up"},
     {"btnColorButton", "swatch-value"},
-    {"btnIntensity", "level-value"},
-    {"btnPulsation", "level-value"},
+    {"btnIntensity", "wide-value"},
+    {"btnPulsation", "wide-value"},
 };
 constexpr Face kMessageFaces[] = {
     {"ButtonClose", "close"},

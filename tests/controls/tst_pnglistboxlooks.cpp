@@ -114,7 +114,7 @@ void tst_pnglistboxlooks::theTextIsOfElevenPoints()
         expected.fill(Qt::black);
         QPainter painter(&expected);
         painter.setPen(Qt::white);
-        writeLine(painter, QStringLiteral("two"), {0, 0, 97, height}, 11, Qt::AlignHCenter);
+        writeLine(painter, QStringLiteral("two"), {0, 3, 97, height - 3}, 11, Qt::AlignHCenter);
         painter.end();
         QCOMPARE(shown(stage.list).copy(0, height, 97, height),
                  expected.toImage().convertToFormat(QImage::Format_ARGB32));
