@@ -10,7 +10,7 @@ int main(int argc, char **argv)
     // A sheet of many pictures is larger than what the toolkit takes for harmless.
     QImageReader::setAllocationLimit(0);
     // Of a picture with loss: letters of ten points stay clean.
-    constexpr int quality = 88;
+    constexpr int quality = 82;
     if (argc == 3 && QImage(QString::fromLocal8Bit(argv[1]))
                          .save(QString::fromLocal8Bit(argv[2]), nullptr, quality))
         return 0;
