@@ -116,7 +116,7 @@ void tst_packedpicture::whatIsNoWholePictureGivesNone_data()
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("head cut short") << whole(kSize).first(kHeadBytes - 1);
     QTest::newRow("a pixel too few") << whole(kSize).chopped(qsizetype(sizeof(QRgb)));
-    QTest::newRow("a line too few") << whole(kSize).chopped(qsizetype(4 * sizeof(QRgb)));
+    QTest::newRow("a line too few") << whole(kSize).chopped(4 * qsizetype{sizeof(QRgb)});
     QTest::newRow("a byte too many") << whole(kSize) + ' ';
     QTest::newRow("no width") << head({0, 3}, "");
     QTest::newRow("negative height") << head({4, -3}, "");
