@@ -150,6 +150,7 @@ class Utility(ShapeStage):
     def test_the_windows_are_blended(self):
         self.start_compositing()
         self.start_utility()
+        self.wait_for_main_window(is_cut_out=False)
         self.check_all_windows()
 
     def test_a_compositing_manager_is_followed(self):
