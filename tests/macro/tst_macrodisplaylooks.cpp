@@ -4,6 +4,8 @@
 #include "support/screen.h"
 #include "support/suite.h"
 
+#include <utility>
+
 using keystroke::kA;
 
 /// How the recording view looks.
@@ -15,6 +17,7 @@ private Q_SLOTS:
     void anEmptyListIsABlankView();
     void eventsAreDrawnAsNamesAndArrows_data();
     void eventsAreDrawnAsNamesAndArrows();
+    void arrowsAreDrawnForTheirCells();
     void arrowsFillTheirCells_data();
     void arrowsFillTheirCells();
     void theFirstLineIsAtTheTopLeft();
@@ -65,6 +68,17 @@ void tst_macrodisplaylooks::eventsAreDrawnAsNamesAndArrows()
     stage.display.enablewindow(ground == Qt::white);
     stage.display.setKeymapInfo(events);
     QCOMPARE(shown(stage.display), displayPicture(text, stage.display.size(), ground));
+}
+
+/// A picture of another size would be squeezed, and its edges lie between the pixels.
+void tst_macrodisplaylooks::arrowsAreDrawnForTheirCells()
+{
+    const std::pair<QString, const char *> arrows[] = {{QStringLiteral("|"), "down"},
+                                                       {QStringLiteral("^"), "up"}};
+    for (const auto &[marker, picture] : arrows) {
+        const UpRect cell = layOutCells(marker, 15, 15).front().place;
+        QCOMPARE(SkinImage::named(picture).size(), QSize(cell.width, cell.height));
+    }
 }
 
 void tst_macrodisplaylooks::arrowsFillTheirCells_data()
